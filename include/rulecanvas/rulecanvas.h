@@ -1,0 +1,409 @@
+/* RuleCanvas: figures of video-analytics rules, drawn and edited on top of a video picture.
+ *
+ * Conventions of this interface
+ *
+ *  1. Calls. On 32-bit Windows every exported function uses the standard calling convention and an undecorated name.
+ * Code that is called on an object (delegates, handlers, the drawing surface, the host object) uses `thiscall`: the
+ * object in ecx, the other arguments on the stack, popped by the callee. Elsewhere both are the platform's ordinary
+ * convention.
+ *  2. Words. An argument or field of type uintptr_t is one machine word: 32 bits on 32-bit Windows.
+ *  3. Booleans. A Bool32 result is exactly 0 or 1. Of a Bool32 argument only the low byte counts, in both directions,
+ * so that a caller that pushes a one-byte boolean may leave junk above it.
+ *  4. Identities. ContainerHandle, ShapeID and ViewID are 32-bit numbers; 0 names nothing. An unknown or stale handle
+ * or ID is harmless: the call changes nothing and returns the failure value named with it.
+ *  5. Texts are NUL-terminated bytes in whatever code page the host uses. They are stored, compared and written to JSON
+ * byte for byte. The caller owns every text it passes; the library copies what it keeps. Texts that the library passes
+ * to a callback are valid during that call only. A null text reads as the empty text unless stated otherwise.
+ *  6. Output texts are copied into a buffer of the caller, whose size in bytes is signed; a null buffer or a size that
+ * is too small (negative included) leaves the buffer untouched.
+ *  7. Ownership. The library owns containers and shapes. Delegates are two words and are copied; their targets stay the
+ *     host's and must live until the delegate is replaced or the container is released. A handler that the host fetched
+ *     belongs to the host, which ends it through the handler's own table.
+ *  8. Threads. The library starts none. Creating and releasing containers and GetVideoAnalyseAllShapestates must not
+ * overlap any other call. The mouse handler must not run while another thread creates or deletes shapes of the same
+ * container. The draw handler may run on a thread of its own beside all per-container calls. Callbacks arrive on the
+ * thread of the call that caused them; any function may be called from inside a callback, even one that ends the
+ * speaking shape.
+ *  9. Units. Points are pixels of a view's client area, origin at the top left, y downwards. Configuration texts carry
+ *     whole numbers on a grid of 0..8191 over the view's width and over its height.
+ * 10. Failure is a result, never an exception, and is not logged.
+ */
+#ifndef RULECANVAS_RULECANVAS_H
+#define RULECANVAS_RULECANVAS_H
+
+#include <stdint.h>
+
+#if defined(_WIN32) && (defined(__i386__) || defined(_M_IX86))
+#define RULECANVAS_CALL __stdcall
+#if defined(_MSC_VER)
+#define RULECANVAS_THISCALL __thiscall
+#else
+#define RULECANVAS_THISCALL __attribute__((thiscall))
+#endif
+#else
+#define RULECANVAS_CALL
+#define RULECANVAS_THISCALL
+#endif
+
+#if defined(_WIN32) && !defined(RULECANVAS_BUILD)
+#define RULECANVAS_API __declspec(dllimport)
+#elif defined(__GNUC__) && !defined(_WIN32)
+#define RULECANVAS_API __attribute__((visibility("default")))
+#else
+#define RULECANVAS_API
+#endif
+
+/* <windows.h> renames these; the drawing surface must be the same class with and without it. */
+#pragma push_macro("DrawText")
+#pragma push_macro("DrawTextEx")
+#undef DrawText
+#undef DrawTextEx
+
+#ifdef __cplusplus
+namespace rulecanvas {
+extern "C" {
+#endif
+
+typedef uint32_t ContainerHandle; /* A live container. */
+typedef uint32_t ShapeID;         /* A live shape of one container. */
+typedef uint32_t ViewID;          /* One view (window) of the host, numbered by the host. */
+typedef uint32_t Bool32;          /* See convention 3. */
+
+typedef struct PointF {
+    float x;
+    float y;
+} PointF;
+
+/* Red, green and blue run 0..255. Alpha 1.0 is opaque; the mosaic alone passes 128. */
+typedef struct ColorF {
+    float alpha;
+    float red;
+    float green;
+    float blue;
+} ColorF;
+
+/* `size` is whatever the figure put there (0, 1, 2 and 24 occur): a host draws anything below 6 in its own default
+ * size. */
+typedef struct TextStyle {
+    ColorF colour;
+    float size;
+    char face[32]; /* Name of the font, NUL-terminated. */
+} TextStyle;
+
+typedef struct ClientRect {
+    int32_t left;
+    int32_t top;
+    int32_t right;
+    int32_t bottom;
+} ClientRect;
+
+/* Values of ContainerMouseEvent::code; any other value is ignored. */
+enum ContainerMouseEventCode {
+    MOUSE_LEFT_DOWN = 1,
+    MOUSE_LEFT_UP = 2,
+    MOUSE_MOVED = 3,
+    MOUSE_RIGHT_DOWN = 4,
+    MOUSE_RIGHT_UP = 5,
+    MOUSE_MOVED_EVENT = 6,
+    MOUSE_CURSOR_QUERY = 9,
+    MOUSE_ALT_RIGHT_DOWN = 10,
+    MOUSE_KEY_DOWN = 11
+};
+
+/* What the host passes to the mouse handler for every mouse and key event of a view. The record may be longer. */
+typedef struct ContainerMouseEvent {
+    uint32_t code;
+    ViewID viewId;
+    uint32_t unused0;
+    float x;
+    float y;
+    uint16_t unused1;
+    uint16_t keyCode; /* Virtual-key code with MOUSE_KEY_DOWN; 27 is Escape. */
+} ContainerMouseEvent;
+
+/* A bound member function of the host. Empty, and never called, when `target` is null. Equal when both words are equal.
+ *
+ * `method` points to code with one of these forms:
+ *   notify          void   THISCALL (void* target, const char* text, Bool32 flag)
+ *   client rect     void   THISCALL (void* target, ViewID view, ClientRect* out)
+ *   mouse capture   Bool32 THISCALL (void* target, Bool32 take)
+ *   translate, adjust point: stored, not called by any shape type of this version.
+ */
+typedef struct CDelegate {
+    void* target;
+    void* method;
+} CDelegate;
+
+typedef CDelegate ContainerNotifyEventDelegate;
+typedef CDelegate GetContainerRectClientDelegate;
+typedef CDelegate CtrlContainerWinMouseCaptureDelegate;
+typedef CDelegate AdjustPointCoordinateDelegate;
+typedef CDelegate ContainerTranslateDelegate;
+
+struct ContainerHandlerTable;
+
+/* A callable of the library: ContainerWinMouseEventHandler or ContainerDrawEventHandler. */
+typedef struct ContainerHandler {
+    const struct ContainerHandlerTable* table;
+    void* target;
+    void* method;
+} ContainerHandler;
+
+typedef struct ContainerHandlerTable {
+    /* Ends the handler; frees it when bit 0 of `flags` is set. */
+    void(RULECANVAS_THISCALL* destroy)(ContainerHandler* self, uint32_t flags);
+    /* 1: a bound member function. */
+    uint32_t(RULECANVAS_THISCALL* kind)(const ContainerHandler* self);
+    /* Mouse handler: (ignored, const ContainerMouseEvent*). Draw handler: (ViewID, IContainerGraphics*). The result
+     * means nothing to a host. A null event or surface, or a container that was released, makes the call do nothing. */
+    uintptr_t(RULECANVAS_THISCALL* invoke)(ContainerHandler* self, uintptr_t first, uintptr_t second);
+    /* 1 when both are bound to the same operation of the same container. */
+    Bool32(RULECANVAS_THISCALL* equals)(const ContainerHandler* self, const ContainerHandler* other);
+    /* A copy on the heap that the caller owns; null without memory. */
+    ContainerHandler*(RULECANVAS_THISCALL* clone)(const ContainerHandler* self);
+} ContainerHandlerTable;
+
+/* Receives a handler. The library never touches `table`, which is the host's. A handler already in it is destroyed
+ * first. */
+typedef struct ContainerHandlerHolder {
+    const void* table;
+    ContainerHandler* handler; /* Owned by the host; null when empty. */
+} ContainerHandlerHolder;
+
+/* Places of the two operations, counted from zero, in the table of the host object given to
+ * CreateVideoAnalyseContainer. Each is void THISCALL (void* host, uint32_t value). Only the places named here are ever
+ * called. */
+#define RULECANVAS_HOST_SET_INTERACTION_HINT 45 /* value 4: the pointer is over a figure that it could grab. */
+#define RULECANVAS_HOST_REQUEST_REDRAW 54       /* value 0: repaint the views. */
+
+/* The host's drawing operations, valid during one call of the draw handler and called on that thread only. The library
+ * calls no reserved place. Widths are pixels; `penStyle` 0 is solid, 1 patterned. */
+#ifdef __cplusplus
+class IContainerGraphics {
+  public:
+    virtual void Reserved0() {}
+    /* Stroke a straight segment. */
+    virtual void DrawLine(const PointF* from, const PointF* to, float width, const ColorF* colour,
+                          int32_t penStyle) = 0;
+    virtual void Reserved2() {}
+    virtual void Reserved3() {}
+    virtual void Reserved4() {}
+    /* Draw a text with its top left at the point. The last two arguments are 0 and 1. */
+    virtual void DrawText(const PointF* at, const TextStyle* style, const char* text, int32_t first,
+                          int32_t second) = 0;
+    /* Not called by any shape type of this version. */
+    virtual void DrawTextEx(const PointF* at, const TextStyle* style, const char* text) = 0;
+    virtual void Reserved7() {}
+    /* Fill the ellipse inscribed in the box of the two corners. */
+    virtual void FillEllipse(const PointF* corner1, const PointF* corner2, float width, ColorF fill,
+                             const ColorF* outline) = 0;
+    /* Stroke the ellipse inscribed in the box of the two corners. */
+    virtual void DrawEllipse(const PointF* corner1, const PointF* corner2, float width, const ColorF* colour) = 0;
+    /* Stroke an axis-parallel rectangle. */
+    virtual void DrawRectangle(const PointF* topLeft, const PointF* bottomRight, float width, const ColorF* colour,
+                               int32_t penStyle) = 0;
+    virtual void Reserved11() {}
+    /* Width and height of a text in pixels. */
+    virtual float MeasureText(TextStyle style, const char* text) = 0;
+    virtual float MeasureTextHeight(TextStyle style, const char* text) = 0;
+    virtual void Reserved14() {}
+    virtual void Reserved15() {}
+    /* Draw a caption for a figure given by its points, clipped. `format` is 32 and `last` is 1. */
+    virtual void DrawTextAtPoints(const char* text, const PointF* points, int32_t count, ColorF colour, int32_t format,
+                                  ClientRect clip, int32_t last) = 0;
+    virtual void Reserved17() {}
+    /* A layer: BeginLayer, SetLayerSize, any FillRectangle in layer coordinates, EndLayer at its place in the picture.
+     */
+    virtual void BeginLayer() = 0;
+    virtual void EndLayer(int32_t x, int32_t y) = 0;
+    virtual void Reserved20() {}
+    virtual void Reserved21() {}
+    virtual void Reserved22() {}
+    virtual void Reserved23() {}
+    virtual void SetLayerSize(int32_t width, int32_t height) = 0;
+    virtual void Reserved25() {}
+    virtual void Reserved26() {}
+    virtual void Reserved27() {}
+    virtual void Reserved28() {}
+    virtual void Reserved29() {}
+    virtual void Reserved30() {}
+    virtual void FillRectangle(const PointF* topLeft, const PointF* bottomRight, const ColorF* colour) = 0;
+
+  protected:
+    /* The library never destroys a surface; a virtual destructor would take a place in the table. */
+    ~IContainerGraphics() = default;
+};
+#else
+struct IContainerGraphics;
+
+typedef struct IContainerGraphicsTable {
+    void* reserved0;
+    void(RULECANVAS_THISCALL* DrawLine)(struct IContainerGraphics* self, const PointF* from, const PointF* to,
+                                        float width, const ColorF* colour, int32_t penStyle);
+    void* reserved2To4[3];
+    void(RULECANVAS_THISCALL* DrawText)(struct IContainerGraphics* self, const PointF* at, const TextStyle* style,
+                                        const char* text, int32_t first, int32_t second);
+    void(RULECANVAS_THISCALL* DrawTextEx)(struct IContainerGraphics* self, const PointF* at, const TextStyle* style,
+                                          const char* text);
+    void* reserved7;
+    void(RULECANVAS_THISCALL* FillEllipse)(struct IContainerGraphics* self, const PointF* corner1,
+                                           const PointF* corner2, float width, ColorF fill, const ColorF* outline);
+    void(RULECANVAS_THISCALL* DrawEllipse)(struct IContainerGraphics* self, const PointF* corner1,
+                                           const PointF* corner2, float width, const ColorF* colour);
+    void(RULECANVAS_THISCALL* DrawRectangle)(struct IContainerGraphics* self, const PointF* topLeft,
+                                             const PointF* bottomRight, float width, const ColorF* colour,
+                                             int32_t penStyle);
+    void* reserved11;
+    float(RULECANVAS_THISCALL* MeasureText)(struct IContainerGraphics* self, TextStyle style, const char* text);
+    float(RULECANVAS_THISCALL* MeasureTextHeight)(struct IContainerGraphics* self, TextStyle style, const char* text);
+    void* reserved14To15[2];
+    void(RULECANVAS_THISCALL* DrawTextAtPoints)(struct IContainerGraphics* self, const char* text, const PointF* points,
+                                                int32_t count, ColorF colour, int32_t format, ClientRect clip,
+                                                int32_t last);
+    void* reserved17;
+    void(RULECANVAS_THISCALL* BeginLayer)(struct IContainerGraphics* self);
+    void(RULECANVAS_THISCALL* EndLayer)(struct IContainerGraphics* self, int32_t x, int32_t y);
+    void* reserved20To23[4];
+    void(RULECANVAS_THISCALL* SetLayerSize)(struct IContainerGraphics* self, int32_t width, int32_t height);
+    void* reserved25To30[6];
+    void(RULECANVAS_THISCALL* FillRectangle)(struct IContainerGraphics* self, const PointF* topLeft,
+                                             const PointF* bottomRight, const ColorF* colour);
+} IContainerGraphicsTable;
+
+typedef struct IContainerGraphics {
+    const IContainerGraphicsTable* table;
+} IContainerGraphics;
+#endif
+
+/* ---- Containers ----------------------------------------------------------------------------------------------------
+ */
+
+/* Makes a container, disabled, without shapes and delegates. `hostObject` is not owned, must outlive the container, and
+ * may be null: then no hint and no redraw is asked for. Returns 0 without memory. */
+RULECANVAS_API ContainerHandle RULECANVAS_CALL CreateVideoAnalyseContainer(void* hostObject);
+
+/* Destroys the container and its shapes. Handlers fetched from it do nothing from then on. */
+RULECANVAS_API void RULECANVAS_CALL ReleaseVideoAnalyseContainer(ContainerHandle container);
+
+/* Makes a shape of a registered type ("Rect", "LineShape", ...) in a view and returns its ID, or 0: unknown type,
+ * refused configuration. The shape is selected. label   becomes "EventName" in every notification of the shape; name
+ * names the shape in notifications and is the key of its geometry in `config`; null reads as "NoName"; config  JSON
+ * object with the geometry; empty: the user draws the shape; option  JSON object with the style, or one mode word, as
+ * the type understands it. */
+RULECANVAS_API ShapeID RULECANVAS_CALL CreateMainVideoAnalyseShape(ContainerHandle container, ViewID view,
+                                                                   const char* label, const char* type,
+                                                                   const char* name, const char* config,
+                                                                   const char* option);
+
+/* Copies the container's mouse handler into `holder`. 1; 0 for an unknown container or a null holder. Without memory
+ * the holder stays empty and the result is 1. */
+RULECANVAS_API Bool32 RULECANVAS_CALL GetContainerWinMouseEventHandler(ContainerHandle container,
+                                                                       ContainerHandlerHolder* holder);
+
+/* The same for the draw handler. */
+RULECANVAS_API Bool32 RULECANVAS_CALL GetContainerDrawEventHandler(ContainerHandle container,
+                                                                   ContainerHandlerHolder* holder);
+
+/* Sets the receiver of notifications: one line of JSON each, ended by a line feed, and a flag that is always 0. An
+ * empty delegate clears it; a null pointer changes nothing. */
+RULECANVAS_API void RULECANVAS_CALL SetContainerNotifyEventDelegate(ContainerHandle container,
+                                                                    const ContainerNotifyEventDelegate* delegate);
+
+/* Stores the delegate; see CDelegate. */
+RULECANVAS_API void RULECANVAS_CALL SetAdjustPointCoordinateDelegate(ContainerHandle container,
+                                                                     const AdjustPointCoordinateDelegate* delegate);
+
+/* Hands three words to a composite shape and returns its answer; 0 for every shape type of this version. */
+RULECANVAS_API uint32_t RULECANVAS_CALL AddVideoAnalyseShape(ContainerHandle container, ShapeID shape, uint32_t first,
+                                                             uint32_t second, uint32_t third);
+
+/* Clears and destroys a shape. 1 for every known container, whether or not the shape is known. */
+RULECANVAS_API Bool32 RULECANVAS_CALL DeleteVideoAnalyseShape(ContainerHandle container, ShapeID shape);
+
+/* Destroys all shapes of the container. */
+RULECANVAS_API void RULECANVAS_CALL DeleteAllVideoAnalyseShape(ContainerHandle container);
+
+/* Selects or deselects a shape and shows or hides its handles. 1; 0 when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SelectVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 select);
+
+/* Sets the direction that the shape draws. Takes effect on a shape of the container itself, and then returns 0; returns
+ * the parent's answer for a part of a composite shape. */
+RULECANVAS_API int32_t RULECANVAS_CALL SetVideoAnalyseShapeDirection(ContainerHandle container, ShapeID shape,
+                                                                     int32_t direction);
+
+/* A disabled container ignores mouse events and draws nothing. 1; 0 when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL EnableVideoAnalyseContainer(ContainerHandle container, Bool32 enable);
+
+/* Copies the shape's geometry, one line of JSON, into the buffer. 1 when a text was copied, else 0: unknown, the shape
+ * is not complete, the buffer is too small. Size needed: the text and its terminating zero; polygons and crosses also
+ * accept a buffer of exactly the text without the zero, which then stays away. */
+RULECANVAS_API Bool32 RULECANVAS_CALL GetVideoAnalyseShapeConfigData(ContainerHandle container, ShapeID shape,
+                                                                     char* buffer, int32_t size);
+
+/* A disabled shape gets no presses. Enabling also selects the shape, disabling deselects it and hides its handles. 1; 0
+ * when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL EnableVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 enable);
+
+/* Throws the figure away, so that the user draws it again. 1; 0 when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL RedrawVideoAnalyseShape(ContainerHandle container, ShapeID shape);
+
+/* Sets the source of a view's client rectangle. It is asked on the mouse and on the paint thread. Unset, every
+ * rectangle is all zeros. 1; 0 when unknown. A null pointer changes nothing and returns 0. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetGetContainerRectClientDelegate(ContainerHandle container,
+                                                                        const GetContainerRectClientDelegate* delegate);
+
+/* Sets whom shapes ask to take (1) and release (0) the mouse capture. Results as above. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetCtrlContainerWinMouseCaptureDelegate(
+    ContainerHandle container, const CtrlContainerWinMouseCaptureDelegate* delegate);
+
+/* The first selected shape in ascending order of ShapeID; 0 when there is none. */
+RULECANVAS_API ShapeID RULECANVAS_CALL GetSelectedVideoAnalyseShapeID(ContainerHandle container);
+
+/* Sets the caption drawn beside the shape. 1 for every known container. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseShapeShowName(ContainerHandle container, ShapeID shape,
+                                                                   const char* text);
+
+/* Shows or hides a shape. 1 for every known container. */
+RULECANVAS_API Bool32 RULECANVAS_CALL ShowVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 show);
+
+/* Stores the delegate; see CDelegate. 1; 0 when unknown. A null pointer changes nothing and returns 0. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetContainerTranslateDelegate(ContainerHandle container,
+                                                                    const ContainerTranslateDelegate* delegate);
+
+/* Sets the tip drawn in the middle of a view until a press hits a shape of that view. 1; 0 when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseContainerTip(ContainerHandle container, ViewID view,
+                                                                  const char* tip);
+
+/* Refits all shapes to the client rectangle at once; the draw handler does the same. 1; 0 when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL InvalidateAllShape(ContainerHandle container);
+
+/* Shows or hides the handles of a shape. 1 for every known container. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetAdjustBoxbShow(ContainerHandle container, ShapeID shape, Bool32 show);
+
+/* Sets the outline colour, 0..255 a component, of the selected shape (`selectedColour` 1) or of the unselected one (0).
+ * 1; 0 when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseShapeColor(ContainerHandle container, ShapeID shape, int32_t red,
+                                                                int32_t green, int32_t blue, Bool32 selectedColour);
+
+/* Sets how many points the user may and must give. The maximum is taken as it is; a minimum of 3 or less is taken as 3.
+ * 1; 0 when unknown. */
+RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseShapeMaxPtNum(ContainerHandle container, ShapeID shape,
+                                                                   int32_t maximum, int32_t minimum);
+
+/* Sets the resolution of the video in pixels, which "PixelCountShape" takes over when it first draws. */
+RULECANVAS_API void RULECANVAS_CALL SetPixelCount(ContainerHandle container, int32_t width, int32_t height);
+
+/* Copies the state of all shapes of all containers as one JSON array into the buffer, "null" without shapes: for each
+ * shape "ShapeID", "ShapeName", "ShapeType" and "bSelShape". Nothing tells that the buffer was too small: size
+ * generously. */
+RULECANVAS_API void RULECANVAS_CALL GetVideoAnalyseAllShapestates(char* buffer, int32_t size);
+
+#ifdef __cplusplus
+}
+}
+#endif
+
+#pragma pop_macro("DrawTextEx")
+#pragma pop_macro("DrawText")
+
+#endif

@@ -1,0 +1,36 @@
+#include "container/shape_map.h"
+
+namespace rulecanvas {
+
+void ShapeMap::Insert(const ShapePtr& shape) {
+    const std::lock_guard<std::mutex> guard(mutex);
+    shapes[shape->GetShapeId()] = shape;
+    ordered.reset();
+}
+
+void ShapeMap::Erase(ShapeID id) {
+    const std::lock_guard<std::mutex> guard(mutex);
+    shapes.erase(id);
+    ordered.reset();
+}
+
+ShapePtr ShapeMap::Find(ShapeID id) const {
+    const std::lock_guard<std::mutex> guard(mutex);
+    const auto found = shapes.find(id);
+    return found == shapes.end() ? nullptr : found->second;
+}
+
+std::shared_ptr<const ShapeList> ShapeMap::InOrder() const {
+    const std::lock_guard<std::mutex> guard(mutex);
+    if (ordered == nullptr) {
+        auto list = std::make_shared<ShapeList>();
+        list->reserve(shapes.size());
+        for (const auto& [id, shape] : shapes) {
+            list->push_back(shape);
+        }
+        ordered = std::move(list);
+    }
+    return ordered;
+}
+
+} // namespace rulecanvas

@@ -1,0 +1,216 @@
+#include "shape/gesture_shape.h"
+
+#include "shape/geometry.h"
+#include "shape/notifications.h"
+
+#include <algorithm>
+
+namespace rulecanvas {
+namespace {
+
+/// Long enough for a paint on another thread to finish with the figure.
+constexpr int PauseBeforeEnd = 10;
+
+} // namespace
+
+CGestureShape::CGestureShape()
+    : moveListener(MouseListener::Bind<&CGestureShape::HearMouseMove>(this)),
+      upListener(MouseListener::Bind<&CGestureShape::HearButtonUp>(this)) {
+    SelectNotifyHook = decltype(SelectNotifyHook)::Bind<&CGestureShape::SendSelection>(this);
+    StateNotifyHook = decltype(StateNotifyHook)::Bind<&CGestureShape::SendState>(this);
+    MoveHook = decltype(MoveHook)::Bind<&CVideoAnalyseShape::MoveShape>(static_cast<CVideoAnalyseShape*>(this));
+    DrawHook = DrawListener::Bind<&CGestureShape::HearDraw>(this);
+}
+
+template <class Call>
+bool CGestureShape::Undisturbed(Call call) {
+    const unsigned before = revision;
+    call();
+    return before == revision && !IsRetired();
+}
+
+void CGestureShape::HandleLButtonDownEvent(const ContainerMouseEvent& event, int hitLevel) {
+    const PointF press = PositionOf(event);
+    switch (state) {
+    case Waiting:
+        StartDrawing(press);
+        break;
+    case Drawing:
+        ContinueDrawing(press);
+        break;
+    case Complete:
+        if (hitLevel == Outside) {
+            adjustBoxShown = false;
+        } else {
+            StartEditing(press, hitLevel);
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+void CGestureShape::ContinueDrawing(const PointF& /*press*/) {}
+
+void CGestureShape::ClearShape() {
+    Disturb();
+    ClearPoints();
+    EndGesture();
+}
+
+bool CGestureShape::RestartDrawing() {
+    ClearShape();
+    state = Waiting;
+    return true;
+}
+
+bool CGestureShape::MoveShape(float dx, float dy) {
+    return EditPoints([&](Points& moved) {
+        moved = Moved(moved, dx, dy);
+        return std::all_of(moved.begin(), moved.end(), [&](const PointF& point) { return AcceptsPoint(point); });
+    });
+}
+
+void CGestureShape::Dispose() {
+    Disturb();
+    UnregisterDraw();
+    platform::Pause(PauseBeforeEnd);
+    ClearPoints();
+    Unsubscribe();
+}
+
+bool CGestureShape::IsShownIn(ViewID view) const {
+    return visible && view == GetViewId() && state != Deleted;
+}
+
+void CGestureShape::PrepareToDraw() {}
+
+bool CGestureShape::HearDraw(ViewID view, IContainerGraphics* surface) {
+    if (IsShownIn(view)) {
+        PrepareToDraw();
+        Draw(CopyLook(), *surface);
+    }
+    return true;
+}
+
+void CGestureShape::BeginConfiguration(const char* shapeName) {
+    Disturb();
+    ClearPoints();
+    NotifySelection();
+    name = shapeName == nullptr ? "NoName" : shapeName;
+    state = Waiting;
+    selected = true;
+}
+
+bool CGestureShape::BeginGesture(ShapeState gestureState) {
+    state = gestureState;
+    if (!Capture(true)) {
+        return false;
+    }
+    Subscribe();
+    return true;
+}
+
+bool CGestureShape::Grab(ShapeState gestureState) {
+    adjustBoxShown = true;
+    selected = true;
+    return NotifySelection() && BeginGesture(gestureState);
+}
+
+bool CGestureShape::FinishGesture() {
+    if (!NotifyState(Complete)) {
+        return false;
+    }
+    state = Complete;
+    return EndGesture();
+}
+
+bool CGestureShape::EndGesture() {
+    const bool undisturbed = Capture(false);
+    if (undisturbed) {
+        Unsubscribe();
+    }
+    return undisturbed;
+}
+
+bool CGestureShape::NotifySelection() {
+    return Undisturbed([&] { SelectNotifyHook(1, 1); });
+}
+
+bool CGestureShape::NotifyState(int newState) {
+    return Undisturbed([&] { StateNotifyHook(state, newState); });
+}
+
+bool CGestureShape::Capture(bool take) {
+    return Undisturbed([&] { RequestCapture(take); });
+}
+
+void CGestureShape::Subscribe() {
+    IShapeContainer* owner = GetContainer();
+    if (owner != nullptr && !subscribed) {
+        owner->RegisterWinMouseEvent(MouseListenerKind::ButtonUp, weak_from_this(), upListener);
+        owner->RegisterWinMouseEvent(MouseListenerKind::MouseMoved, weak_from_this(), moveListener);
+        subscribed = true;
+    }
+}
+
+void CGestureShape::Unsubscribe() {
+    IShapeContainer* owner = GetContainer();
+    if (owner != nullptr && subscribed) {
+        owner->unRegisterWinMouseEvent(MouseListenerKind::ButtonUp, upListener);
+        owner->unRegisterWinMouseEvent(MouseListenerKind::MouseMoved, moveListener);
+        subscribed = false;
+    }
+}
+
+void CGestureShape::FinishByRightButton(int hitLevel) {
+    if (hitLevel == Busy) {
+        FinishGesture();
+    }
+}
+
+void CGestureShape::DeleteByRightButton(int hitLevel) {
+    if (!enableRBtnDelete || (hitLevel != OnOutline && hitLevel != Inside)) {
+        return;
+    }
+    const int previous = state;
+    ClearShape();
+    if (Undisturbed([&] { StateNotifyHook(previous, Deleted); })) {
+        state = Deleted;
+    }
+}
+
+PointF CGestureShape::ClampToView(const PointF& anchor, const PointF& position) const {
+    return ClampRelative(anchor, position, ViewRect());
+}
+
+bool CGestureShape::FollowMouse(const PointF& position) {
+    if (!MoveHook(position.x - anchorPoint.x, position.y - anchorPoint.y)) {
+        return false;
+    }
+    SetAnchorPoint(position);
+    return true;
+}
+
+bool CGestureShape::HearMouseMove(const ContainerMouseEvent& event) {
+    return event.viewId == GetViewId() && OnMouseMove(PositionOf(event));
+}
+
+bool CGestureShape::HearButtonUp(const ContainerMouseEvent& event) {
+    return event.viewId == GetViewId() && OnButtonUp(PositionOf(event), event);
+}
+
+void CGestureShape::SendSelection(int select, int notify) {
+    IShapeContainer* owner = GetContainer();
+    if (owner != nullptr && select == 1 && notify == 1) {
+        owner->Notify(SelectionEvent(*this));
+    }
+}
+
+void CGestureShape::SendState(int previousState, int newState) {
+    if (IShapeContainer* owner = GetContainer()) {
+        owner->Notify(StateEvent(*this, previousState, newState));
+    }
+}
+
+} // namespace rulecanvas

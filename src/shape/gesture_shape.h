@@ -1,0 +1,88 @@
+#pragma once
+
+#include "shape/shape.h"
+
+namespace rulecanvas {
+
+/// A shape that is drawn and edited with the mouse.
+///
+/// A gesture begins with a press: the shape enters a state, takes the mouse capture and listens to moves and to the
+/// button's release. It ends with one of FinishGesture, ClearShape or Retire. The host hears of it through its
+/// callbacks, and may answer any of them by clearing, restarting or deleting the shape; every step that follows a
+/// callback therefore asks whether the shape is still where the step left it. The steps that can be overtaken so return
+/// false.
+class CGestureShape : public CVideoAnalyseShape {
+  public:
+    CGestureShape();
+
+    /// Leads a press to StartDrawing, ContinueDrawing or StartEditing; a press beside the shape hides its handles.
+    void HandleLButtonDownEvent(const ContainerMouseEvent& event, int hitLevel) override;
+    void ClearShape() override;
+    bool RestartDrawing() override;
+    /// All points, or none when one of them would leave the view.
+    bool MoveShape(float dx, float dy) override;
+
+  protected:
+    virtual void StartDrawing(const PointF& press) = 0;
+    virtual void ContinueDrawing(const PointF& press);
+    virtual void StartEditing(const PointF& press, int hitLevel) = 0;
+    /// The answers of the two listeners.
+    virtual bool OnMouseMove(const PointF& position) = 0;
+    virtual bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) = 0;
+
+    void Dispose() override;
+
+    /// Whether a paint of the view shows the shape.
+    virtual bool IsShownIn(ViewID view) const;
+    /// What must happen to the points before a paint copies them.
+    virtual void PrepareToDraw();
+    virtual void Draw(const ShapeLook& look, IContainerGraphics& surface) = 0;
+
+    /// The part of a new configuration that all shapes share: no points, the selection notification, and only then the
+    /// name, the state and the selection.
+    void BeginConfiguration(const char* shapeName);
+
+    bool BeginGesture(ShapeState gestureState);
+    /// Begins the drag of a finished shape: handles, selection and its notification, then the gesture.
+    bool Grab(ShapeState gestureState);
+    /// Reports the state to come, completes the shape and ends the gesture.
+    bool FinishGesture();
+    /// Releases the capture and stops listening.
+    bool EndGesture();
+
+    bool NotifySelection();
+    bool NotifyState(int newState);
+    bool Capture(bool take);
+    void Subscribe();
+    void Unsubscribe();
+
+    /// A right press while the shape is drawn finishes it.
+    void FinishByRightButton(int hitLevel);
+    /// A right press on a shape that allows it clears the shape, reports and takes state 0.
+    void DeleteByRightButton(int hitLevel);
+
+    /// The position in whole pixels, kept inside the view as seen from `anchor`.
+    PointF ClampToView(const PointF& anchor, const PointF& position) const;
+
+    /// Moves the whole shape after the mouse and takes the mouse over as the new anchor; a refused step changes
+    /// nothing.
+    bool FollowMouse(const PointF& position);
+
+  private:
+    bool HearDraw(ViewID view, IContainerGraphics* surface);
+    bool HearMouseMove(const ContainerMouseEvent& event);
+    bool HearButtonUp(const ContainerMouseEvent& event);
+    void SendSelection(int select, int notify);
+    void SendState(int previousState, int newState);
+    /// Runs a callback into the host. False when the host answered by changing the shape.
+    template <class Call>
+    bool Undisturbed(Call call);
+    void Disturb() { ++revision; }
+
+    MouseListener moveListener;
+    MouseListener upListener;
+    bool subscribed = false;
+    std::atomic<unsigned> revision{0};
+};
+
+} // namespace rulecanvas

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "shape/shape.h"
+
+namespace rulecanvas {
+
+/// One line of JSON that tells the host that a shape was selected.
+std::string SelectionEvent(const CVideoAnalyseShape& shape);
+
+/// One line of JSON that tells the host that a shape went from one state to another.
+std::string StateEvent(const CVideoAnalyseShape& shape, int previousState, int newState);
+
+} // namespace rulecanvas

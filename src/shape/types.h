@@ -1,0 +1,54 @@
+#pragma once
+
+#include "rulecanvas/rulecanvas.h"
+
+#include <vector>
+
+namespace rulecanvas {
+
+using Points = std::vector<PointF>;
+
+/// Width and height of a view's client area; 0 or less while unknown.
+struct ViewSize {
+    int width = 0;
+    int height = 0;
+
+    bool Known() const { return width > 0 && height > 0; }
+};
+
+/// Where a shape stands in its life. The numbers are part of every state notification.
+enum ShapeState : int {
+    Deleted = 0,
+    Waiting = 1,
+    Drawing = 2,
+    Complete = 3,
+    Moving = 4,
+    Adjusting = 5,
+};
+
+/// How strongly a shape claims a press; the strongest claim wins.
+enum HitLevel : int {
+    Miss = 0,
+    Outside = 3,
+    Inside = 4,
+    OnOutline = 5,
+    Busy = 6,
+};
+
+constexpr ColorF OpaqueColour(float red, float green, float blue) {
+    return ColorF{1.0F, red, green, blue};
+}
+
+inline bool operator==(const PointF& a, const PointF& b) {
+    return a.x == b.x && a.y == b.y;
+}
+
+inline bool operator!=(const PointF& a, const PointF& b) {
+    return !(a == b);
+}
+
+inline PointF PositionOf(const ContainerMouseEvent& event) {
+    return PointF{event.x, event.y};
+}
+
+} // namespace rulecanvas
