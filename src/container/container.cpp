@@ -85,7 +85,7 @@ bool CVideoAnalyseContainer::DeleteShape(ShapeID id) {
 void CVideoAnalyseContainer::DeleteAllShapes() {
     DebugTrace("DeleteAllVideoAnalyseShape\n");
     LockGuard guard(containerMutex);
-    for (const ShapePtr& shape : *shapes.InOrder()) {
+    for (const ShapePtr& shape : shapes.InOrder()) {
         shapes.Erase(shape->GetShapeId());
         RetireOnce(*shape);
     }
@@ -123,7 +123,7 @@ bool CVideoAnalyseContainer::RedrawShape(ShapeID id) {
 }
 
 ShapeID CVideoAnalyseContainer::GetSelectedShape() const {
-    for (const ShapePtr& shape : *shapes.InOrder()) {
+    for (const ShapePtr& shape : shapes.InOrder()) {
         if (shape->IsSelected()) {
             return shape->GetShapeId();
         }
@@ -191,7 +191,7 @@ ShapePtr CVideoAnalyseContainer::DeepFind(ShapeID id) const {
 }
 
 ShapePtr CVideoAnalyseContainer::FindParent(ShapeID id) const {
-    for (const ShapePtr& shape : *shapes.InOrder()) {
+    for (const ShapePtr& shape : shapes.InOrder()) {
         if (shape->FindSubShape(id) != nullptr) {
             return shape;
         }
@@ -201,7 +201,7 @@ ShapePtr CVideoAnalyseContainer::FindParent(ShapeID id) const {
 
 void CVideoAnalyseContainer::FitAllShapes() {
     LockGuard guard(containerMutex);
-    for (const ShapePtr& shape : *shapes.InOrder()) {
+    for (const ShapePtr& shape : shapes.InOrder()) {
         shape->FitToClientRect();
     }
 }

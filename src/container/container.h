@@ -62,7 +62,7 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     bool SetShapeColor(ShapeID id, int red, int green, int blue, bool selectedColour);
     bool SetShapeMaxPtNum(ShapeID id, int maximum, int minimum);
     void SetPixelCount(int width, int height);
-    std::shared_ptr<const ShapeList> ShapesInOrder() const { return shapes.InOrder(); }
+    ShapeSnapshot ShapesInOrder() const { return shapes.InOrder(); }
 
     /// The answer of the listeners, where the event goes to listeners alone.
     bool OnMouseEvent(const ContainerMouseEvent& event);

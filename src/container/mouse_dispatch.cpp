@@ -83,7 +83,7 @@ ShapePtr CVideoAnalyseContainer::FindHitShape(const ContainerMouseEvent& event, 
     const bool leftPress = event.code == MOUSE_LEFT_DOWN;
     ShapePtr winner;
     hitLevel = Miss;
-    for (const ShapePtr& shape : *shapes.InOrder()) {
+    for (const ShapePtr& shape : shapes.InOrder()) {
         if (!shape->IsEnabled() || shape->GetViewId() != event.viewId || shape->IsRetired()) {
             continue;
         }
@@ -113,7 +113,7 @@ void CVideoAnalyseContainer::RequestRedraw() {
 }
 
 void CVideoAnalyseContainer::OfferToAllShapes(const ContainerMouseEvent& event) {
-    for (const ShapePtr& shape : *shapes.InOrder()) {
+    for (const ShapePtr& shape : shapes.InOrder()) {
         if (!shape->IsRetired()) {
             shape->HandleContainerEvent(event, hitLevel);
         }

@@ -20,17 +20,17 @@ ShapePtr ShapeMap::Find(ShapeID id) const {
     return found == shapes.end() ? nullptr : found->second;
 }
 
-std::shared_ptr<const ShapeList> ShapeMap::InOrder() const {
+ShapeSnapshot ShapeMap::InOrder() const {
     const std::lock_guard<std::mutex> guard(mutex);
     if (ordered == nullptr) {
-        auto list = std::make_shared<ShapeList>();
+        auto list = std::make_shared<ShapeSnapshot::List>();
         list->reserve(shapes.size());
         for (const auto& [id, shape] : shapes) {
             list->push_back(shape);
         }
         ordered = std::move(list);
     }
-    return ordered;
+    return ShapeSnapshot(ordered);
 }
 
 } // namespace rulecanvas

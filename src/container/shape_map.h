@@ -10,10 +10,22 @@
 namespace rulecanvas {
 
 using ShapePtr = std::shared_ptr<CVideoAnalyseShape>;
-using ShapeList = std::vector<ShapePtr>;
+
+/// Shapes as they were at one moment. Later changes of the map leave it alone, and it keeps them in memory.
+class ShapeSnapshot {
+  public:
+    using List = std::vector<ShapePtr>;
+
+    explicit ShapeSnapshot(std::shared_ptr<const List> shapes) : list(std::move(shapes)) {}
+    List::const_iterator begin() const { return list->begin(); }
+    List::const_iterator end() const { return list->end(); }
+
+  private:
+    std::shared_ptr<const List> list;
+};
 
 /// The shapes of a container by ShapeID. Its own lock is held for single look-ups and changes only, never while a shape
-/// is called; a walk goes over a list that later changes leave alone.
+/// is called.
 class ShapeMap {
   public:
     void Insert(const ShapePtr& shape);
@@ -21,12 +33,12 @@ class ShapeMap {
     /// Null when unknown.
     ShapePtr Find(ShapeID id) const;
     /// All shapes in ascending order of ShapeID.
-    std::shared_ptr<const ShapeList> InOrder() const;
+    ShapeSnapshot InOrder() const;
 
   private:
     mutable std::mutex mutex;
     std::map<ShapeID, ShapePtr> shapes;
-    mutable std::shared_ptr<const ShapeList> ordered; // null after a change
+    mutable std::shared_ptr<const ShapeSnapshot::List> ordered; // null after a change
 };
 
 } // namespace rulecanvas

@@ -19,7 +19,7 @@ Json::Value StateOf(const CVideoAnalyseShape& shape) {
 std::string StateReport(const std::vector<std::shared_ptr<CVideoAnalyseContainer>>& containers) {
     Json::Value report;
     for (const auto& container : containers) {
-        for (const ShapePtr& shape : *container->ShapesInOrder()) {
+        for (const ShapePtr& shape : container->ShapesInOrder()) {
             report.append(StateOf(*shape));
         }
     }

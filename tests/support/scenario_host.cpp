@@ -1,0 +1,108 @@
+#include "support/scenario_host.h"
+
+#include <string>
+
+namespace rulecanvas::test {
+namespace {
+
+/// The text behind `key` up to `end`; empty without the key.
+std::string Field(const std::string& text, const std::string& key, char end) {
+    const size_t at = text.find(key);
+    if (at == std::string::npos) {
+        return "";
+    }
+    const size_t begin = at + key.size();
+    return text.substr(begin, text.find(end, begin) - begin);
+}
+
+/// Takes the event apart, writes it anew as documented, and shortens it only when both are the same to the letter.
+std::string Shortened(const std::string& event) {
+    const std::string id = Field(event, "\"ShapeID\":", '.');
+    const std::string name = Field(event, "\"ShapeName\":\"", '"');
+    const std::string previous = Field(event, "\"PreShapeState\":", ',');
+    const std::string next = Field(event, "\"ShapeState\":", '}');
+    const std::string shape = "\"ShapeID\":" + id + ".0,\"ShapeName\":\"" + name + "\"";
+    const std::string begin = "{\"EventName\":\"label\",\"EventParam\":{";
+    if (event == begin + shape + "}}\n") {
+        return "select " + name;
+    }
+    if (event == begin + "\"PreShapeState\":" + previous + "," + shape + ",\"ShapeState\":" + next + "}}\n") {
+        return "state " + name + " " + previous + ">" + next;
+    }
+    return event;
+}
+
+} // namespace
+
+ScenarioHost::ScenarioHost(int width, int height)
+    : clientRect{0, 0, width, height},
+      hostObject([this] { Write("redraw"); }, [this](uint32_t value) { Write("hint " + std::to_string(value)); }),
+      container(&hostObject) {
+    container.onNotify([this](const char* text) {
+        lastEventText = text;
+        Write(Shortened(lastEventText));
+    });
+    container.onClientRect([this](ViewID) { return clientRect; });
+    container.onCapture([this](bool take) {
+        Write(take ? "capture on" : "capture off");
+        return true;
+    });
+    container.enable();
+}
+
+void ScenarioHost::Write(const std::string& entry) {
+    log.push_back(entry);
+    if (onEntry) {
+        onEntry(entry);
+    }
+}
+
+Lines ScenarioHost::TakeLog() {
+    Lines taken;
+    taken.swap(log);
+    return taken;
+}
+
+ShapeID ScenarioHost::Add(const char* type, const std::string& config, const std::string& option) {
+    ShapeSettings settings;
+    settings.view = TheView;
+    settings.type = type;
+    settings.label = "label";
+    settings.name = "rule";
+    settings.configuration = config.c_str();
+    settings.option = option.c_str();
+    const ShapeID shape = container.addShape(settings);
+    log.clear();
+    return shape;
+}
+
+void ScenarioHost::Click(float x, float y) {
+    Press(x, y);
+    Release(x, y);
+}
+
+void ScenarioHost::Drag(const PointF& from, const PointF& to) {
+    Press(from.x, from.y);
+    Move(to.x, to.y);
+    Release(to.x, to.y);
+}
+
+void ScenarioHost::Send(uint32_t code, float x, float y, ViewID view) {
+    container.sendMouse(static_cast<MouseCode>(code), view, x, y);
+}
+
+Lines ScenarioHost::Paint(ViewID view) {
+    RecordingSurface surface;
+    container.paint(view, surface);
+    return surface.calls;
+}
+
+std::string ScenarioHost::Config(ShapeID shape) {
+    std::string text = container.configuration(shape).str();
+    if (!text.empty() && text.back() == '\n') {
+        text.pop_back();
+    }
+    return text;
+}
+
+} // namespace rulecanvas::test

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "rulecanvas/host.hpp"
+#include "support/recording_surface.h"
+
+#include <functional>
+#include <string>
+
+namespace rulecanvas::test {
+
+constexpr ViewID TheView = 7;
+
+/// A host with one enabled container and one view, of 800 x 600 pixels at first, that writes down what the library
+/// says:
+///
+///     select rule            a selection notification of the shape named "rule"
+///     state rule 2>3         a state notification
+///     capture on/off         the mouse capture is asked for or given back
+///     redraw, hint 4         the host object is called
+///
+/// A notification that is not exactly of the documented form is written down as it came. `onEntry` runs inside each of
+/// these callbacks and may call back.
+class ScenarioHost {
+  public:
+    explicit ScenarioHost(int width = 800, int height = 600);
+
+    /// What was written down since the last call.
+    Lines TakeLog();
+
+    /// A shape labelled "label" and named "rule". Forgets what was written down while it was made.
+    ShapeID Add(const char* type, const std::string& config = "", const std::string& option = "");
+
+    void Press(float x, float y) { Send(MOUSE_LEFT_DOWN, x, y); }
+    void Move(float x, float y) { Send(MOUSE_MOVED, x, y); }
+    void Release(float x, float y) { Send(MOUSE_LEFT_UP, x, y); }
+    void Click(float x, float y);
+    void RightPress(float x, float y) { Send(MOUSE_RIGHT_DOWN, x, y); }
+    /// Press, one move to the end, release there.
+    void Drag(const PointF& from, const PointF& to);
+    void Send(uint32_t code, float x, float y, ViewID view = TheView);
+
+    /// What a paint of the view draws.
+    Lines Paint(ViewID view = TheView);
+    /// The configuration text without its final line feed; empty when there is none.
+    std::string Config(ShapeID shape);
+    void Resize(int width, int height) { clientRect = ClientRect{0, 0, width, height}; }
+
+    ClientRect clientRect;
+    std::function<void(const std::string&)> onEntry;
+    std::string lastEventText;
+
+  private:
+    void Write(const std::string& entry);
+
+    Lines log;
+    HostObject hostObject;
+
+  public:
+    Container container;
+};
+
+} // namespace rulecanvas::test
