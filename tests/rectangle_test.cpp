@@ -5,17 +5,261 @@
 namespace rulecanvas::test {
 namespace {
 
+/// Pixels and grid are the same number in a view of this size.
+constexpr int GridView = 8191;
+
+constexpr const char* Square = R"({"rule":[[100,100],[200,200]]})";
+
+Lines SelectedRectangle(const PointF& topLeft, const PointF& bottomRight) {
+    const std::string outline = Written(topLeft) + "-" + Written(bottomRight);
+    Lines lines{"text " + Written(topLeft) + " \"\" size 2 yellow", "rect " + outline + " w2 yellow"};
+    for (const PointF& corner :
+         {topLeft, PointF{bottomRight.x, topLeft.y}, bottomRight, PointF{topLeft.x, bottomRight.y}}) {
+        lines.push_back("rect " + Written({corner.x - 3, corner.y - 3}) + "-" + Written({corner.x + 3, corner.y + 3}) +
+                        " w2 yellow");
+    }
+    return lines;
+}
+
 TEST(Rectangle, IsDrawnByDraggingInAnyDirection) {
+    for (const PointF& end : {PointF{200, 150}, PointF{20, 150}, PointF{20, 20}, PointF{200, 20}}) {
+        ScenarioHost host;
+        const ShapeID shape = host.Add("Rect");
+        EXPECT_EQ(host.Paint(), Lines{});
+
+        host.Press(100, 80);
+        host.Move(end.x, end.y);
+        const PointF topLeft{std::min(100.0F, end.x), std::min(80.0F, end.y)};
+        const PointF bottomRight{std::max(100.0F, end.x), std::max(80.0F, end.y)};
+        EXPECT_EQ(host.Paint(), SelectedRectangle(topLeft, bottomRight)) << "follows the mouse";
+        host.Release(end.x, end.y);
+
+        EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture off", "state rule 2>3"}));
+        EXPECT_EQ(host.Paint(), SelectedRectangle(topLeft, bottomRight));
+        EXPECT_EQ(host.container.selectedShape(), shape);
+    }
+}
+
+TEST(Rectangle, ThatCannotBeBuiltWaitsToBeDrawnAgain) {
     ScenarioHost host;
-    const ShapeID shape = host.Add("Rect");
+    host.Add("Rect");
 
-    host.Drag({200, 150}, {100, 50});
+    host.Press(801, 10);
+    EXPECT_EQ(host.TakeLog(), Lines{}) << "a press outside the view";
+    host.Click(100, 100);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture off"})) << "released where it was pressed";
+    host.Press(100, 100);
+    host.Move(150, 150);
+    host.Move(109, 150);
+    EXPECT_EQ(host.Paint(), SelectedRectangle({100, 100}, {150, 150})) << "too narrow: the last good one stays";
+    host.Release(109, 150);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "redraw", "capture off"}));
+    EXPECT_EQ(host.Paint(), Lines{}) << "a failed creation leaves no corners";
 
-    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture off", "state rule 2>3"}));
-    EXPECT_EQ(host.Paint(), (Lines{"text (100,50) \"\" size 2 yellow", "rect (100,50)-(200,150) w2 yellow",
-                                   "rect (97,47)-(103,53) w2 yellow", "rect (197,47)-(203,53) w2 yellow",
-                                   "rect (197,147)-(203,153) w2 yellow", "rect (97,147)-(103,153) w2 yellow"}));
-    EXPECT_EQ(host.Config(shape), "{\"rule\":[[1024,683],[2048,2048]]}");
+    host.Press(700, 500);
+    host.Move(900, 700);
+    host.Release(900, 700);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw"})) << "released outside: still drawing";
+    EXPECT_EQ(host.Paint(), SelectedRectangle({700, 500}, {800, 600})) << "clamped to the view";
+    host.Release(750.9F, 550.9F);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture off", "state rule 2>3"}));
+    EXPECT_EQ(host.Paint(), SelectedRectangle({700, 500}, {750, 550})) << "whole pixels, toward zero";
+}
+
+TEST(Rectangle, MovesWithTheMouseAndStopsAtTheBorder) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("Rect", Square);
+
+    host.Press(150, 150);
+    EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on"}));
+    host.Move(160, 170);
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[110,120],[210,220]]})");
+    host.Move(10, 170);
+    host.Move(10, 190);
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[110,120],[210,220]]})") << "a step out of the view is refused whole";
+    host.Move(60, 180);
+    host.Release(60, 180);
+    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 4>3", "capture off"}));
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[10,130],[110,230]]})") << "and does not move the anchor";
+    host.Move(300, 300);
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[10,130],[110,230]]})") << "let go";
+}
+
+TEST(Rectangle, IsResizedByAnyCorner) {
+    struct Case {
+        PointF grab;
+        PointF drop;
+        const char* config;
+    };
+    for (const Case& c : {Case{{104, 96}, {50, 60}, R"({"rule":[[50,60],[200,200]]})"},
+                          Case{{200, 100}, {260, 90}, R"({"rule":[[100,90],[260,200]]})"},
+                          Case{{200, 200}, {9000, 300}, R"({"rule":[[100,100],[8191,300]]})"},
+                          Case{{100, 200}, {-50, 210}, R"({"rule":[[0,100],[200,210]]})"},
+                          Case{{200, 200}, {50, 50}, R"({"rule":[[50,50],[100,100]]})"},
+                          Case{{200, 200}, {109, 300}, R"({"rule":[[100,100],[200,200]]})"}}) {
+        ScenarioHost host(GridView, GridView);
+        const ShapeID shape = host.Add("Rect", Square);
+        host.Drag(c.grab, c.drop);
+        EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 5>3", "capture off"}));
+        EXPECT_EQ(host.Config(shape), c.config);
+    }
+}
+
+TEST(Rectangle, IsDeselectedByAPressBesideItAndSelectedAgainByOneInside) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("Rect", Square);
+
+    host.Click(300, 300);
+    EXPECT_EQ(host.TakeLog(), Lines{});
+    EXPECT_EQ(host.container.selectedShape(), 0U);
+    EXPECT_EQ(host.Paint(), (Lines{"text (100,100) \"\" size 2 blue", "rect (100,100)-(200,200) w2 blue"}));
+    host.Press(197, 150); // on the edge, not on a corner, inside
+    EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on"}));
+    host.Release(197, 150);
+    host.Press(203, 150); // on the edge, but outside
+    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 4>3", "capture off"}));
+    EXPECT_EQ(host.container.selectedShape(), shape);
+}
+
+TEST(Rectangle, IsDeletedByTheRightButtonOnlyWhenAllowed) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID plain = host.Add("Rect", Square);
+    host.RightPress(150, 150);
+    EXPECT_EQ(host.TakeLog(), Lines{});
+    host.container.deleteShape(plain);
+
+    const ShapeID shape = host.Add("Rect", Square, "EnableRBtnDelete");
+    host.TakeLog();
+    host.RightPress(300, 300);
+    EXPECT_EQ(host.TakeLog(), Lines{}) << "beside it";
+    host.RightPress(150, 150);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture off", "state rule 3>0"}));
+    EXPECT_EQ(host.Paint(), Lines{});
+    EXPECT_EQ(host.Config(shape), "");
+    host.Click(150, 150);
+    host.RightPress(150, 150);
+    EXPECT_EQ(host.TakeLog(), Lines{}) << "a deleted shape is not hit";
+    EXPECT_TRUE(host.container.redrawShape(shape));
+    host.TakeLog();
+    host.Drag({10, 10}, {90, 90});
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[10,10],[90,90]]})") << "but can be drawn anew";
+}
+
+TEST(Rectangle, ReadsItsConfigurationOrRefusesIt) {
+    struct Case {
+        const char* config;
+        bool made;
+        const char* readBack;
+    };
+    for (const Case& c :
+         {Case{R"({"rule":[[200,300],[100,100]]} and more)", true, R"({"rule":[[100,100],[200,300]]})"},
+          Case{R"({"rule":[[100.6,100],[200,2e2]]})", true, R"({"rule":[[101,100],[200,200]]})"},
+          Case{R"({"rule":[[100,100],[9e9,9e9]]})", true, R"({"rule":[[100,100],[8191,8191]]})"},
+          Case{R"({"rule":[[100,100],[100,100]]})", true, ""}, Case{R"({"rule":[[100,100],[109,200]]})", true, ""},
+          Case{R"({"rule":[[100,100]]})", false, ""}, Case{R"({"rule":[[100,100],[200,200],[300,300]]})", false, ""},
+          Case{R"({"rule":{"0":[1,1],"1":[2,2]}})", false, ""}, Case{R"({"rule":[["a",100],[200,200]]})", false, ""},
+          Case{R"({"rule":[100,200]})", false, ""}, Case{R"({"Rule":[[100,100],[200,200]]})", false, ""},
+          Case{R"([[100,100],[200,200]])", false, ""}, Case{"{", false, ""}}) {
+        ScenarioHost host(GridView, GridView);
+        const ShapeID shape = host.Add("Rect", c.config);
+        EXPECT_EQ(shape != 0, c.made) << c.config;
+        EXPECT_EQ(host.Config(shape), c.readBack) << c.config;
+    }
+    ScenarioHost host;
+    EXPECT_EQ(host.Add("Rect", std::string(100000, '[')), 0U) << "too deep, not too much for the stack";
+}
+
+TEST(Rectangle, CopiesItsConfigurationOnlyIntoABufferThatHoldsAllOfIt) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("Rect", Square);
+    const std::string text = std::string(R"({"rule":[[100,100],[200,200]]})") + "\n";
+    const ContainerHandle container = host.container.handle();
+    const int32_t needed = static_cast<int32_t>(text.size()) + 1;
+    for (const int32_t size : {INT32_MIN, -1, 0, 1, needed - 1}) {
+        std::string buffer(text.size() + 1, '#');
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(container, shape, buffer.data(), size), 0U);
+        EXPECT_EQ(buffer, std::string(text.size() + 1, '#')) << size;
+    }
+    std::string buffer(text.size() + 1, '#');
+    EXPECT_EQ(GetVideoAnalyseShapeConfigData(container, shape, nullptr, needed), 0U);
+    EXPECT_EQ(GetVideoAnalyseShapeConfigData(container, shape, buffer.data(), needed), 1U);
+    EXPECT_EQ(buffer, text + '\0');
+}
+
+TEST(Rectangle, DrawsAsItsStyleSays) {
+    struct Case {
+        const char* option;
+        Lines selected;
+        Lines deselected;
+    };
+    const Lines plain{"text (0,0) \"gate\" size 2 blue", "rect (0,0)-(20,20) w2 blue"};
+    for (const Case& c : {
+             Case{R"({"LineThickness":5,"UnSelLineThickness":3})",
+                  {"text (0,0) \"gate\" size 2 yellow", "rect (0,0)-(20,20) w5 yellow"},
+                  {"text (0,0) \"gate\" size 2 blue", "rect (0,0)-(20,20) w3 blue"}},
+             Case{R"({"LineThickness":5,"PenStyle":1})",
+                  {"text (0,0) \"gate\" size 2 yellow", "rect (0,0)-(20,20) w1 yellow dashed"},
+                  {"text (0,0) \"gate\" size 2 blue", "rect (0,0)-(20,20) w1 blue dashed"}},
+             Case{R"({"ShapeColor":[{"ColorName":"SelColor","R":1,"G":2,"B":3},{"ColorName":"UnSelColor","R":9,"G":8},)"
+                  R"({"ColorName":"Other","R":1,"G":1,"B":1},{"R":4,"G":4,"B":4}],"LineThickness":3.0,"PenStyle":"1"})",
+                  {"text (0,0) \"gate\" size 2 1,2,3", "rect (0,0)-(20,20) w2 1,2,3"},
+                  plain},
+             Case{"TextOnly", {"text (0,0) \"gate\" size 2 yellow"}, {"text (0,0) \"gate\" size 2 blue"}},
+             Case{"TextOnly,EnableRBtnDelete",
+                  {"text (0,0) \"gate\" size 2 yellow", "rect (0,0)-(20,20) w2 yellow"},
+                  plain},
+         }) {
+        ScenarioHost host(GridView, GridView);
+        const ShapeID shape = host.Add("Rect", R"({"rule":[[0,0],[20,20]]})", c.option);
+        host.container.setCaption(shape, "gate");
+        host.container.showHandles(shape, false);
+        EXPECT_EQ(host.Paint(), c.selected) << c.option;
+        host.container.selectShape(shape, false);
+        EXPECT_EQ(host.Paint(), c.deselected) << c.option;
+    }
+    ScenarioHost host;
+    EXPECT_EQ(host.Add("Rect", "", R"({"ShapeColor":[{"ColorName":{}}]})"), 0U) << "not convertible";
+    EXPECT_EQ(host.Add("Rect", "", R"({"mosaic":{"enable":[]}})"), 0U);
+}
+
+TEST(Rectangle, CoversItsInsideWithAMosaic) {
+    struct Case {
+        const char* option;
+        Lines layer;
+    };
+    const std::string black = " 0,0,0@128";
+    const std::string white = " 255,255,255@128";
+    for (const Case& c : {Case{R"({"mosaic":{"enable":true}})",
+                               {"layer", "layer-size 20x12", "fill (0,0)-(8,8)" + black, "fill (8,0)-(16,8)" + white,
+                                "fill (16,0)-(20,8)" + black, "fill (0,8)-(8,12)" + white, "fill (8,8)-(16,12)" + black,
+                                "fill (16,8)-(20,12)" + white, "layer-end (5,5)"}},
+                          Case{R"({"mosaic":{"enable":1,"size":20}})",
+                               {"layer", "layer-size 20x12", "fill (0,0)-(20,12)" + black, "layer-end (5,5)"}},
+                          Case{R"({"mosaic":{"enable":true,"size":0}})", {}}, Case{R"({"mosaic":{"size":8}})", {}}}) {
+        ScenarioHost host(GridView, GridView);
+        const ShapeID shape = host.Add("Rect", R"({"rule":[[5,5],[25,17]]})", c.option);
+        host.container.selectShape(shape, false);
+        Lines drawn = host.Paint();
+        ASSERT_GE(drawn.size(), 2U);
+        drawn.erase(drawn.begin(), drawn.begin() + 2);
+        EXPECT_EQ(drawn, c.layer) << c.option;
+    }
+}
+
+TEST(Rectangle, FollowsTheSizeOfItsView) {
+    ScenarioHost host(400, 300);
+    host.Add("Rect");
+    host.Drag({100, 60}, {200, 150});
+    host.Resize(800, 150);
+    EXPECT_EQ(host.Paint(), SelectedRectangle({200, 30}, {400, 75}));
+    for (const ClientRect& empty : {ClientRect{0, 0, 0, 0}, ClientRect{0, 0, -5, 100}, ClientRect{50, 0, 50, 100}}) {
+        host.clientRect = empty;
+        EXPECT_EQ(host.Paint(), SelectedRectangle({200, 30}, {400, 75})) << "a minimised window collapses nothing";
+    }
+    host.clientRect = ClientRect{400, 0, 1600, 150};
+    host.Paint();
+    EXPECT_EQ(host.Paint()[1], "rect (533.33,30)-(1066.67,75) w2 yellow")
+        << "scaled by the right edge, then remembered by the width";
 }
 
 } // namespace

@@ -1,0 +1,295 @@
+#include "support/scenario_host.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+namespace rulecanvas::test {
+namespace {
+
+constexpr const char* Square = R"({"rule":[[1000,1000],[3000,3000]]})"; // in a view of 800 x 600: (98,73)-(293,220)
+constexpr const char* Wider = R"({"rule":[[1000,1000],[3100,3100]]})";
+
+TEST(Exports, AnswerAnUnknownContainerWithFailure) {
+    ScenarioHost host;
+    for (const ContainerHandle unknown : {0U, host.container.handle() + 1U, ~0U}) {
+        CDelegate words{nullptr, nullptr};
+        ContainerHandlerHolder holder{nullptr, nullptr};
+        char buffer[8] = "as was";
+        ReleaseVideoAnalyseContainer(unknown);
+        SetContainerNotifyEventDelegate(unknown, &words);
+        SetAdjustPointCoordinateDelegate(unknown, &words);
+        DeleteAllVideoAnalyseShape(unknown);
+        SetPixelCount(unknown, 1, 1);
+        EXPECT_EQ(CreateMainVideoAnalyseShape(unknown, 1, "", "Rect", "", "", ""), 0U);
+        EXPECT_EQ(GetContainerWinMouseEventHandler(unknown, &holder), 0U);
+        EXPECT_EQ(GetContainerDrawEventHandler(unknown, &holder), 0U);
+        EXPECT_EQ(AddVideoAnalyseShape(unknown, 1, 1, 1, 1), 0U);
+        EXPECT_EQ(DeleteVideoAnalyseShape(unknown, 1), 0U);
+        EXPECT_EQ(SelectVideoAnalyseShape(unknown, 1, 1), 0U);
+        EXPECT_EQ(SetVideoAnalyseShapeDirection(unknown, 1, 1), 0);
+        EXPECT_EQ(EnableVideoAnalyseContainer(unknown, 1), 0U);
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(unknown, 1, buffer, sizeof(buffer)), 0U);
+        EXPECT_EQ(EnableVideoAnalyseShape(unknown, 1, 1), 0U);
+        EXPECT_EQ(RedrawVideoAnalyseShape(unknown, 1), 0U);
+        EXPECT_EQ(SetGetContainerRectClientDelegate(unknown, &words), 0U);
+        EXPECT_EQ(SetCtrlContainerWinMouseCaptureDelegate(unknown, &words), 0U);
+        EXPECT_EQ(GetSelectedVideoAnalyseShapeID(unknown), 0U);
+        EXPECT_EQ(SetVideoAnalyseShapeShowName(unknown, 1, "x"), 0U);
+        EXPECT_EQ(ShowVideoAnalyseShape(unknown, 1, 1), 0U);
+        EXPECT_EQ(SetContainerTranslateDelegate(unknown, &words), 0U);
+        EXPECT_EQ(SetVideoAnalyseContainerTip(unknown, 1, "x"), 0U);
+        EXPECT_EQ(InvalidateAllShape(unknown), 0U);
+        EXPECT_EQ(SetAdjustBoxbShow(unknown, 1, 1), 0U);
+        EXPECT_EQ(SetVideoAnalyseShapeColor(unknown, 1, 1, 1, 1, 1), 0U);
+        EXPECT_EQ(SetVideoAnalyseShapeMaxPtNum(unknown, 1, 1, 1), 0U);
+        EXPECT_EQ(holder.handler, nullptr);
+        EXPECT_STREQ(buffer, "as was");
+    }
+}
+
+TEST(Exports, AnswerAnUnknownShapeAsEachIsDocumented) {
+    ScenarioHost host;
+    const ContainerHandle container = host.container.handle();
+    const ShapeID known = host.Add("Rect", Square);
+    for (const ShapeID unknown : {0U, known + 1U, ~0U}) {
+        EXPECT_EQ(AddVideoAnalyseShape(container, unknown, 1, 1, 1), 0U);
+        EXPECT_EQ(DeleteVideoAnalyseShape(container, unknown), 1U);
+        EXPECT_EQ(SelectVideoAnalyseShape(container, unknown, 1), 0U);
+        EXPECT_EQ(SetVideoAnalyseShapeDirection(container, unknown, 1), 0);
+        EXPECT_EQ(EnableVideoAnalyseShape(container, unknown, 1), 0U);
+        EXPECT_EQ(RedrawVideoAnalyseShape(container, unknown), 0U);
+        EXPECT_EQ(SetVideoAnalyseShapeShowName(container, unknown, nullptr), 1U);
+        EXPECT_EQ(ShowVideoAnalyseShape(container, unknown, 0), 1U);
+        EXPECT_EQ(SetAdjustBoxbShow(container, unknown, 1), 1U);
+        EXPECT_EQ(SetVideoAnalyseShapeColor(container, unknown, 1, 1, 1, 1), 0U);
+        EXPECT_EQ(SetVideoAnalyseShapeMaxPtNum(container, unknown, 1, 1), 0U);
+    }
+    EXPECT_EQ(AddVideoAnalyseShape(container, known, 1, 1, 1), 0U) << "not a composite";
+    EXPECT_EQ(SetVideoAnalyseShapeDirection(container, known, 1), 0) << "no parent";
+    EXPECT_NE(host.Config(known), "") << "and the known one is as it was";
+}
+
+TEST(Exports, TakeNullTextsAndNullPointers) {
+    ScenarioHost host;
+    const ContainerHandle container = host.container.handle();
+    for (const char* type : {"rect", "Rect ", "", "LaneShape", static_cast<const char*>(nullptr)}) {
+        EXPECT_EQ(CreateMainVideoAnalyseShape(container, TheView, "", type, "", "", ""), 0U);
+    }
+    EXPECT_EQ(SetGetContainerRectClientDelegate(container, nullptr), 0U);
+    EXPECT_EQ(GetContainerWinMouseEventHandler(container, nullptr), 0U);
+    SetContainerNotifyEventDelegate(container, nullptr);
+    SetVideoAnalyseContainerTip(container, TheView, nullptr);
+    const ShapeID shape = CreateMainVideoAnalyseShape(container, TheView, nullptr, "Rect", nullptr, nullptr, nullptr);
+    ASSERT_NE(shape, 0U);
+    SetVideoAnalyseShapeShowName(container, shape, nullptr);
+    EXPECT_EQ(host.lastEventText,
+              "{\"EventName\":\"\",\"EventParam\":{\"ShapeID\":" + std::to_string(shape) + ".0,\"ShapeName\":\"\"}}\n")
+        << "the selection is reported before the name is set";
+    host.Drag({10, 10}, {100, 100});
+    EXPECT_EQ(host.lastEventText, "{\"EventName\":\"\",\"EventParam\":{\"PreShapeState\":2,\"ShapeID\":" +
+                                      std::to_string(shape) + ".0,\"ShapeName\":\"NoName\",\"ShapeState\":3}}\n");
+}
+
+TEST(Exports, KeepTheBytesOfTexts) {
+    ScenarioHost host;
+    const ContainerHandle container = host.container.handle();
+    const std::string name = "\xC4\xFF\x80 \"\\\n\x01";
+    const ShapeID shape =
+        CreateMainVideoAnalyseShape(container, TheView, "\xE4", "Rect", name.c_str(), nullptr, nullptr);
+    host.Drag({0, 0}, {800, 600});
+    const std::string written = "\xC4\xFF\x80 \\\"\\\\\\n\\u0001";
+    EXPECT_EQ(host.Config(shape), "{\"" + written + "\":[[0,0],[8191,8191]]}");
+    EXPECT_NE(host.lastEventText.find("\"ShapeName\":\"" + written + "\""), std::string::npos);
+    const std::string config = host.Config(shape);
+    const ShapeID copy =
+        CreateMainVideoAnalyseShape(container, TheView, "", "Rect", name.c_str(), config.c_str(), nullptr);
+    EXPECT_EQ(host.Config(copy), config);
+}
+
+TEST(Exports, ReadBooleansFromTheLowByteAlone) {
+    ScenarioHost host;
+    const ContainerHandle container = host.container.handle();
+    const ShapeID shape = host.Add("Rect", Square);
+    EXPECT_EQ(SelectVideoAnalyseShape(container, shape, 0xABCDEF00U), 1U);
+    EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), 0U);
+    EXPECT_EQ(EnableVideoAnalyseShape(container, shape, 0xABCDEF80U), 1U);
+    EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), shape) << "enabling selects";
+    EXPECT_EQ(host.Paint().size(), 2U) << "without showing the handles";
+    EXPECT_EQ(EnableVideoAnalyseShape(container, shape, 0x100U), 1U);
+    EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), 0U);
+    host.Press(150, 150);
+    EXPECT_EQ(host.TakeLog(), Lines{}) << "a disabled shape gets no press";
+}
+
+TEST(Container, DoesNothingUntilItIsEnabled) {
+    ScenarioHost host;
+    host.container.enable(false);
+    host.Add("Rect", Square);
+    host.container.setTip(TheView, "tip");
+    host.Click(150, 150);
+    host.container.sendKey(TheView, 27);
+    EXPECT_EQ(host.TakeLog(), Lines{});
+    EXPECT_EQ(host.Paint(), Lines{});
+    host.container.enable();
+    EXPECT_NE(host.Paint(), Lines{});
+}
+
+TEST(Container, HandsOutHandlersThatCompareEqual) {
+    ScenarioHost host;
+    const ContainerHandle container = host.container.handle();
+    ContainerHandlerHolder mouse{nullptr, nullptr};
+    ContainerHandlerHolder draw{nullptr, nullptr};
+    EXPECT_EQ(GetContainerWinMouseEventHandler(container, &mouse), 1U);
+    EXPECT_EQ(GetContainerWinMouseEventHandler(container, &mouse), 1U) << "destroys the first copy";
+    EXPECT_EQ(GetContainerDrawEventHandler(container, &draw), 1U);
+    const ContainerHandlerTable& table = *mouse.handler->table;
+    ContainerHandler* clone = table.clone(mouse.handler);
+    EXPECT_EQ(table.kind(clone), 1U);
+    EXPECT_EQ(table.equals(mouse.handler, clone), 1U);
+    EXPECT_EQ(table.equals(mouse.handler, draw.handler), 0U);
+    EXPECT_EQ(table.equals(mouse.handler, nullptr), 0U);
+    EXPECT_EQ(table.invoke(clone, 0, 0), 0U) << "no event";
+    EXPECT_EQ(draw.handler->table->invoke(draw.handler, TheView, 0), 0U) << "no surface";
+    table.destroy(clone, 1);
+
+    ReleaseVideoAnalyseContainer(container);
+    ReleaseVideoAnalyseContainer(container);
+    const ContainerMouseEvent press{MOUSE_LEFT_DOWN, TheView, 0, 1, 1, 0, 0};
+    EXPECT_EQ(table.invoke(mouse.handler, 0, reinterpret_cast<uintptr_t>(&press)), 0U) << "the container is gone";
+    table.destroy(mouse.handler, 1);
+    draw.handler->table->destroy(draw.handler, 1);
+}
+
+TEST(Dispatch, GivesAPressToTheStrongestClaimAndToTheLowestIdOfEquals) {
+    ScenarioHost host;
+    ShapeID first = host.Add("Rect", Square);
+    ShapeID second = host.Add("Rect", Wider);
+    std::map<ShapeID, std::string> before{{first, host.Config(first)}, {second, host.Config(second)}};
+    const auto moved = [&](ShapeID shape) { return host.Config(shape) != before[shape]; };
+    host.Drag({150, 150}, {160, 150}); // inside both: a tie
+    EXPECT_EQ(moved(first), first < second);
+    EXPECT_EQ(moved(second), second < first);
+
+    host.container.deleteAllShapes();
+    first = host.Add("Rect", Square);
+    second = host.Add("Rect", Wider);
+    before = {{first, host.Config(first)}, {second, host.Config(second)}};
+    host.Drag({293, 220}, {280, 200}); // a corner of the first, the inside of the second
+    EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 5>3", "capture off"}));
+    EXPECT_FALSE(moved(second));
+}
+
+TEST(Dispatch, HidesOneViewFromTheShapesOfAnother) {
+    ScenarioHost host;
+    const ShapeID shape = host.Add("Rect", Square);
+    host.Send(MOUSE_LEFT_DOWN, 150, 150, TheView + 1);
+    EXPECT_EQ(host.TakeLog(), Lines{});
+    EXPECT_EQ(host.Paint(TheView + 1), Lines{});
+    const std::string before = host.Config(shape);
+    host.Press(150, 150);
+    host.Send(MOUSE_MOVED, 300, 300, TheView + 1);
+    host.Send(MOUSE_LEFT_UP, 300, 300, TheView + 1);
+    EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on"})) << "the drag goes on";
+    EXPECT_EQ(host.Config(shape), before);
+}
+
+TEST(Dispatch, AsksTheHostForRedrawsAndHints) {
+    ScenarioHost host;
+    host.Send(MOUSE_KEY_DOWN, 0, 0);
+    EXPECT_EQ(host.TakeLog(), Lines{});
+    host.container.sendKey(TheView, 27);
+    EXPECT_EQ(host.TakeLog(), Lines{"redraw"}) << "Escape, without any shape";
+    host.Add("Rect", Square);
+    host.Send(MOUSE_CURSOR_QUERY, 150, 150);
+    EXPECT_EQ(host.TakeLog(), Lines{}) << "no press yet";
+    host.Click(150, 150);
+    host.TakeLog();
+    host.Move(150, 150);
+    host.Send(MOUSE_CURSOR_QUERY, 150, 150);
+    EXPECT_EQ(host.TakeLog(), Lines{"hint 4"}) << "the latest press hit the inside";
+    for (const uint32_t code : {0U, 5U, 6U, 7U, 8U, 10U, 12U, ~0U}) {
+        host.Send(code, 150, 150);
+    }
+    EXPECT_EQ(host.TakeLog(), Lines{});
+
+    Container withoutHost;
+    withoutHost.enable();
+    withoutHost.sendKey(TheView, 27);
+    withoutHost.sendMouse(MouseCode::moved, TheView, 1, 1);
+}
+
+TEST(Container, DrawsATipUntilAPressHitsAShapeOfTheView) {
+    ScenarioHost host;
+    host.container.setTip(TheView, "first");
+    host.container.setTip(TheView, "wait");
+    host.container.setTip(TheView + 1, "");
+    host.clientRect = ClientRect{0, -5, 101, 2};
+    EXPECT_EQ(host.Paint(), Lines{"text (36,-1) \"wait\" size 0 yellow in STHeitiSC-Light"}) << "truncated halves";
+    EXPECT_EQ(host.Paint(TheView + 1), Lines{});
+    host.Resize(800, 600);
+    host.Press(10, 10);
+    EXPECT_EQ(host.Paint().size(), 1U) << "no shape, the tip stays";
+    const ShapeID shape = host.Add("Rect", Square);
+    host.container.showShape(shape, false);
+    host.Click(10, 10);
+    EXPECT_EQ(host.Paint(), Lines{});
+}
+
+TEST(Container, ChangesTheLookOfOneShape) {
+    ScenarioHost host;
+    const ShapeID shape = host.Add("Rect", Square);
+    host.container.setCaption(shape, "gate");
+    host.container.setColour(shape, Outline::selected, 1, 2, 3);
+    host.container.setColour(shape, Outline::unselected, -1, 300, 0);
+    host.container.showHandles(shape, false);
+    EXPECT_EQ(host.Paint(), (Lines{"text (98,73) \"gate\" size 2 1,2,3", "rect (98,73)-(293,220) w2 1,2,3"}));
+    host.container.selectShape(shape, false);
+    EXPECT_EQ(host.Paint(), (Lines{"text (98,73) \"gate\" size 2 -1,300,0", "rect (98,73)-(293,220) w2 -1,300,0"}));
+    host.container.showShape(shape, false);
+    EXPECT_EQ(host.Paint(), Lines{});
+}
+
+TEST(Container, WorksWithoutAnyDelegate) {
+    Container container;
+    container.enable();
+    ShapeSettings settings;
+    settings.type = "Rect";
+    const ShapeID shape = container.addShape(settings);
+    ASSERT_NE(shape, 0U);
+    container.sendMouse(MouseCode::leftDown, 0, 0, 0); // the view has no size, but its origin
+    container.sendMouse(MouseCode::moved, 0, 50, 50);
+    container.sendMouse(MouseCode::leftUp, 0, 50, 50);
+    RecordingSurface surface;
+    container.paint(0, surface);
+    EXPECT_EQ(surface.calls, Lines{});
+    EXPECT_TRUE(container.configuration(shape).empty());
+}
+
+TEST(StateReport, ListsTheShapesOfAllContainers) {
+    char small[5] = "####";
+    GetVideoAnalyseAllShapestates(small, 4);
+    EXPECT_STREQ(small, "####");
+    GetVideoAnalyseAllShapestates(nullptr, 100);
+    GetVideoAnalyseAllShapestates(small, -1);
+    GetVideoAnalyseAllShapestates(small, sizeof(small));
+    EXPECT_STREQ(small, "null") << "no containers";
+
+    ScenarioHost one;
+    ScenarioHost two;
+    const ShapeID a = one.Add("Rect");
+    const ShapeID b = two.Add("Rect");
+    one.container.selectShape(a, false);
+    const auto entry = [](ShapeID id, bool selected) {
+        return "{\"ShapeID\":" + std::to_string(static_cast<int32_t>(id)) +
+               R"(,"ShapeName":"rule","ShapeType":5,"bSelShape":)" + (selected ? "true}" : "false}");
+    };
+    const bool oneFirst = one.container.handle() < two.container.handle();
+    char report[500] = "";
+    GetVideoAnalyseAllShapestates(report, sizeof(report));
+    EXPECT_EQ(report,
+              "[" + (oneFirst ? entry(a, false) + "," + entry(b, true) : entry(b, true) + "," + entry(a, false)) + "]");
+}
+
+} // namespace
+} // namespace rulecanvas::test
