@@ -22,24 +22,25 @@ class ListenerList {
 
     void Register(const ShapeOwner& owner, const Listener& listener) {
         platform::LockGuard guard(mutex);
-        Writable().push_back(std::make_shared<Entry>(owner, listener));
+        entries.push_back(std::make_shared<Entry>(owner, listener));
+        snapshot.reset();
     }
 
     void Unregister(const Listener& listener) {
         platform::LockGuard guard(mutex);
-        Entries& writable = Writable();
-        const auto found = std::find_if(writable.begin(), writable.end(),
+        const auto found = std::find_if(entries.begin(), entries.end(),
                                         [&](const auto& entry) { return entry->listener == listener; });
-        if (found != writable.end()) {
+        if (found != entries.end()) {
             (*found)->registered = false;
-            writable.erase(found);
+            entries.erase(found);
+            snapshot.reset();
         }
     }
 
     /// True when a listener returned true and the list stops on that.
     bool Invoke(Arguments... arguments) {
-        const std::shared_ptr<const Entries> snapshot = Snapshot();
-        for (const auto& entry : *snapshot) {
+        const std::shared_ptr<const Entries> current = Snapshot();
+        for (const auto& entry : *current) {
             const std::shared_ptr<CVideoAnalyseShape> pinned = entry->owner.lock();
             if (pinned && entry->registered && entry->listener(arguments...) && stopOnTrue) {
                 return true;
@@ -61,18 +62,14 @@ class ListenerList {
 
     std::shared_ptr<const Entries> Snapshot() {
         platform::LockGuard guard(mutex);
-        return entries;
-    }
-
-    /// The list itself, or a copy of it when an invocation still walks the old one.
-    Entries& Writable() {
-        if (entries.use_count() > 1) {
-            entries = std::make_shared<Entries>(*entries);
+        if (snapshot == nullptr) {
+            snapshot = std::make_shared<const Entries>(entries);
         }
-        return *entries;
+        return snapshot;
     }
 
-    std::shared_ptr<Entries> entries = std::make_shared<Entries>();
+    Entries entries;
+    std::shared_ptr<const Entries> snapshot; // null after a change
     const bool stopOnTrue = false;
     platform::Mutex mutex;
 };

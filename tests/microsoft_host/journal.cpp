@@ -4,7 +4,10 @@
 
 #include <stdarg.h>
 
-extern "C" int __cdecl _vsnprintf(char* buffer, size_t size, const char* format, va_list arguments);
+extern "C" {
+int __cdecl _snprintf(char* buffer, size_t size, const char* format, ...);
+int __cdecl _vsnprintf(char* buffer, size_t size, const char* format, va_list arguments);
+}
 
 namespace rulecanvas::test {
 namespace {
@@ -19,6 +22,17 @@ void Append(const char* format, va_list arguments) {
     length = written < 0 ? Size - 1 : length + static_cast<size_t>(written);
 }
 
+struct ColourText {
+    char text[64];
+};
+
+ColourText Written(const ColorF& colour) {
+    ColourText written = {};
+    _snprintf(written.text, sizeof(written.text) - 1, "%g,%g,%g@%g", colour.red, colour.green, colour.blue,
+              colour.alpha);
+    return written;
+}
+
 } // namespace
 
 void Write(const char* format, ...) {
@@ -29,23 +43,16 @@ void Write(const char* format, ...) {
 }
 
 void WriteText(const PointF& at, const TextStyle& style, const char* text) {
-    Write("text (%g,%g) '%s' size %g colour %g,%g,%g,%g face %s\n", at.x, at.y, text, style.size, style.colour.alpha,
-          style.colour.red, style.colour.green, style.colour.blue, style.face);
+    Write("text (%g,%g) '%s' size %g %s in %s\n", at.x, at.y, text, style.size, Written(style.colour).text, style.face);
 }
 
 void WriteRectangle(const PointF& from, const PointF& to, float width, const ColorF& colour, int penStyle) {
-    Write("rect (%g,%g)-(%g,%g) width %g colour %g,%g,%g,%g pen %d\n", from.x, from.y, to.x, to.y, width, colour.alpha,
-          colour.red, colour.green, colour.blue, penStyle);
-}
-
-void WriteEllipse(const PointF& from, const PointF& to, float width, const ColorF& fill, const ColorF& outline) {
-    Write("disc (%g,%g)-(%g,%g) width %g fill %g,%g,%g,%g outline %g,%g,%g,%g\n", from.x, from.y, to.x, to.y, width,
-          fill.alpha, fill.red, fill.green, fill.blue, outline.alpha, outline.red, outline.green, outline.blue);
+    Write("rect (%g,%g)-(%g,%g) width %g %s pen %d\n", from.x, from.y, to.x, to.y, width, Written(colour).text,
+          penStyle);
 }
 
 void WriteMeasured(const TextStyle& style, const char* text) {
-    Write("measure '%s' size %g colour %g,%g,%g,%g face %s\n", text, style.size, style.colour.alpha, style.colour.red,
-          style.colour.green, style.colour.blue, style.face);
+    Write("measure '%s' size %g %s in %s\n", text, style.size, Written(style.colour).text, style.face);
 }
 
 void ExpectCalls(const char* what, const char* format, ...) {

@@ -8,7 +8,6 @@ namespace rulecanvas::test {
 void Write(const char* format, ...);
 void WriteText(const PointF& at, const TextStyle& style, const char* text);
 void WriteRectangle(const PointF& from, const PointF& to, float width, const ColorF& colour, int penStyle);
-void WriteEllipse(const PointF& from, const PointF& to, float width, const ColorF& fill, const ColorF& outline);
 void WriteMeasured(const TextStyle& style, const char* text);
 
 /// Prints whether the lines since the last call are exactly the expected ones.
