@@ -121,6 +121,8 @@ TEST(Reentry, AListenerThatIsGoneIsNotCalled) {
 
 TEST(Threads, APaintMayRunBesideEverything) {
     ScenarioHost host;
+    host.Add("Rect", R"({"rule":[[7000,7000],[8000,8000]]})");
+    const Lines still = host.Paint();
     std::atomic<bool> painting{true};
     std::atomic<size_t> drawn{0};
     std::thread painter([&] {
@@ -129,22 +131,22 @@ TEST(Threads, APaintMayRunBesideEverything) {
         }
     });
     for (int round = 0; round < 20; ++round) {
-        const ShapeID kept = host.Add("Rect");
+        const ShapeID shape = host.Add("Rect");
         host.Drag({100, 100}, {200, 200});
-        host.container.setCaption(kept, "a caption that is too long to be kept in place");
-        host.container.setColour(kept, Outline::selected, round, 0, 0);
+        host.container.setCaption(shape, "a caption that is too long to be kept in place");
+        host.container.setColour(shape, Outline::selected, round, 0, 0);
         host.container.setTip(TheView, "tip");
         host.Press(150, 150);
         for (float x = 150; x < 180; x += 1) {
             host.Move(x, x);
         }
-        host.container.showShape(kept, round % 2 == 0);
-        host.container.deleteShape(kept); // in the middle of the drag
+        host.container.showShape(shape, round % 2 == 0);
+        host.container.deleteShape(shape); // in the middle of the drag
     }
     painting = false;
     painter.join();
     EXPECT_GT(drawn, 0U);
-    EXPECT_EQ(host.Paint(), Lines{});
+    EXPECT_EQ(host.Paint().size(), still.size() - 4) << "deselected by the presses, otherwise as it was";
 }
 
 } // namespace

@@ -74,9 +74,13 @@ bool CGestureShape::MoveShape(float dx, float dy) {
 void CGestureShape::Dispose() {
     Disturb();
     UnregisterDraw();
-    platform::Pause(PauseBeforeEnd);
+    AwaitPaint();
     ClearPoints();
     Unsubscribe();
+}
+
+void CGestureShape::AwaitPaint() const {
+    platform::Pause(PauseBeforeEnd);
 }
 
 bool CGestureShape::IsShownIn(ViewID view) const {
@@ -117,12 +121,16 @@ bool CGestureShape::Grab(ShapeState gestureState) {
     return NotifySelection() && BeginGesture(gestureState);
 }
 
-bool CGestureShape::FinishGesture() {
+bool CGestureShape::BecomeComplete() {
     if (!NotifyState(Complete)) {
         return false;
     }
     state = Complete;
-    return EndGesture();
+    return true;
+}
+
+bool CGestureShape::FinishGesture() {
+    return BecomeComplete() && EndGesture();
 }
 
 bool CGestureShape::EndGesture() {

@@ -31,6 +31,8 @@ class CGestureShape : public CVideoAnalyseShape {
     virtual bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) = 0;
 
     void Dispose() override;
+    /// Gives a paint on another thread time to finish with the figure. A figure that ends at once overrides it.
+    virtual void AwaitPaint() const;
 
     /// Whether a paint of the view shows the shape.
     virtual bool IsShownIn(ViewID view) const;
@@ -45,7 +47,9 @@ class CGestureShape : public CVideoAnalyseShape {
     bool BeginGesture(ShapeState gestureState);
     /// Begins the drag of a finished shape: handles, selection and its notification, then the gesture.
     bool Grab(ShapeState gestureState);
-    /// Reports the state to come, completes the shape and ends the gesture.
+    /// Reports that the shape is complete, and makes it so.
+    bool BecomeComplete();
+    /// Completes the shape and ends the gesture.
     bool FinishGesture();
     /// Releases the capture and stops listening.
     bool EndGesture();

@@ -57,6 +57,10 @@ bool IsArrayOf(const Json::Value& value, unsigned count) {
     return value.isArray() && value.size() == count;
 }
 
+bool IsPlainInteger(const Json::Value& value) {
+    return value.type() == Json::intValue && value.isInt();
+}
+
 bool CopyText(const std::string& text, char* buffer, int size) {
     if (buffer == nullptr || size < 0 || static_cast<size_t>(size) < text.size() + 1) {
         return false;

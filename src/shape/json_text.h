@@ -18,6 +18,9 @@ const Json::Value& MemberOf(const Json::Value& root, const std::string& key);
 
 bool IsArrayOf(const Json::Value& value, unsigned count);
 
+/// Numbers with a fraction or an exponent are not integers here, even when their value is whole.
+bool IsPlainInteger(const Json::Value& value);
+
 /// Copies the text with its terminating zero, when all of it fits.
 bool CopyText(const std::string& text, char* buffer, int size);
 

@@ -8,11 +8,6 @@ namespace {
 constexpr int ArrowPathMaximum = 20;
 constexpr int DefaultMosaicSize = 8;
 
-/// Numbers with a fraction or an exponent are not integers here, even when their value is whole.
-bool IsPlainInteger(const Json::Value& value) {
-    return value.type() == Json::intValue && value.isInt();
-}
-
 void ReadFlag(const Json::Value& root, const char* key, bool& flag) {
     const Json::Value& value = MemberOf(root, key);
     if (value.isBool()) {

@@ -124,11 +124,7 @@ bool CRectangleShape::FinishDrawing(const PointF& release, const ContainerMouseE
         return false;
     }
     CreationFinishedHook(event);
-    if (!NotifyState(Complete)) {
-        return false;
-    }
-    state = Complete;
-    return true;
+    return BecomeComplete();
 }
 
 bool CRectangleShape::RebuildFromAnchor(const PointF& opposite) {
