@@ -5,7 +5,8 @@ namespace {
 
 /// Middle of two borders, truncated toward zero.
 float MiddleOf(int32_t first, int32_t second) {
-    return static_cast<float>((static_cast<int64_t>(first) + second) / 2);
+    const int64_t middle = (static_cast<int64_t>(first) + second) / 2;
+    return static_cast<float>(middle);
 }
 
 } // namespace

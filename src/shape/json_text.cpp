@@ -65,13 +65,13 @@ bool CopyText(const std::string& text, char* buffer, int size) {
     if (buffer == nullptr || size < 0 || static_cast<size_t>(size) < text.size() + 1) {
         return false;
     }
-    std::memcpy(buffer, text.c_str(), text.size() + 1);
+    buffer[text.copy(buffer, text.size())] = '\0';
     return true;
 }
 
 bool CopyTextUncounted(const std::string& text, char* buffer, int size) {
     if (buffer != nullptr && size >= 0 && static_cast<size_t>(size) == text.size()) {
-        std::memcpy(buffer, text.data(), text.size());
+        text.copy(buffer, text.size());
         return true;
     }
     return CopyText(text, buffer, size);

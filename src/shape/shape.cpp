@@ -86,6 +86,7 @@ bool CVideoAnalyseShape::GetPressPoint(PointF& out) const {
     return true;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the shapes that use the list take it over
 void CVideoAnalyseShape::SetShapePoints(Points /*newPoints*/) {}
 
 void CVideoAnalyseShape::SetSubShapeShowName(ShapeID id, const char* text) {

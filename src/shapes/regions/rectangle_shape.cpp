@@ -152,10 +152,11 @@ void CRectangleShape::SetShapePoints(Points newPoints) {
 }
 
 void CRectangleShape::PlaceAt(const PointF& centre, int width, int height) {
-    const float halfWidth = static_cast<float>(width / 2);
-    const float halfHeight = static_cast<float>(height / 2);
-    SetAnchorPoint(PointF{centre.x - halfWidth, centre.y - halfHeight});
-    if (RebuildFromAnchor(PointF{centre.x + halfWidth, centre.y + halfHeight})) {
+    const int halfWidth = width / 2;
+    const int halfHeight = height / 2;
+    const PointF half{static_cast<float>(halfWidth), static_cast<float>(halfHeight)};
+    SetAnchorPoint(PointF{centre.x - half.x, centre.y - half.y});
+    if (RebuildFromAnchor(PointF{centre.x + half.x, centre.y + half.y})) {
         state = Complete;
     }
     RegisterDraw();
