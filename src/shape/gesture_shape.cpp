@@ -67,7 +67,7 @@ bool CGestureShape::RestartDrawing() {
 bool CGestureShape::MoveShape(float dx, float dy) {
     return EditPoints([&](Points& moved) {
         moved = Moved(moved, dx, dy);
-        return std::all_of(moved.begin(), moved.end(), [&](const PointF& point) { return AcceptsPoint(point); });
+        return AcceptsPoints(moved);
     });
 }
 
@@ -107,6 +107,7 @@ void CGestureShape::BeginConfiguration(const char* shapeName) {
 }
 
 bool CGestureShape::BeginGesture(ShapeState gestureState) {
+    Disturb();
     state = gestureState;
     if (!Capture(true)) {
         return false;
@@ -125,6 +126,7 @@ bool CGestureShape::BecomeComplete() {
     if (!NotifyState(Complete)) {
         return false;
     }
+    Disturb();
     state = Complete;
     return true;
 }
@@ -134,6 +136,7 @@ bool CGestureShape::FinishGesture() {
 }
 
 bool CGestureShape::EndGesture() {
+    Disturb(); // a step that waits for the host further up must not end the gesture again
     const bool undisturbed = Capture(false);
     if (undisturbed) {
         Unsubscribe();
@@ -172,7 +175,7 @@ void CGestureShape::Unsubscribe() {
 }
 
 void CGestureShape::FinishByRightButton(int hitLevel) {
-    if (hitLevel == Busy) {
+    if (hitLevel == Busy && state == Drawing) {
         FinishGesture();
     }
 }
@@ -190,6 +193,10 @@ void CGestureShape::DeleteByRightButton(int hitLevel) {
 
 PointF CGestureShape::ClampToView(const PointF& anchor, const PointF& position) const {
     return ClampRelative(anchor, position, ViewRect());
+}
+
+bool CGestureShape::AcceptsPoints(const Points& candidates) const {
+    return std::all_of(candidates.begin(), candidates.end(), [&](const PointF& point) { return AcceptsPoint(point); });
 }
 
 bool CGestureShape::FollowMouse(const PointF& position) {

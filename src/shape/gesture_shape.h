@@ -44,6 +44,8 @@ class CGestureShape : public CVideoAnalyseShape {
     /// name, the state and the selection.
     void BeginConfiguration(const char* shapeName);
 
+    /// Whether a gesture was begun and not ended yet.
+    bool InGesture() const { return subscribed; }
     bool BeginGesture(ShapeState gestureState);
     /// Begins the drag of a finished shape: handles, selection and its notification, then the gesture.
     bool Grab(ShapeState gestureState);
@@ -54,6 +56,8 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Releases the capture and stops listening.
     bool EndGesture();
 
+    /// Stops every step that waits for an answer of the host: the shape is no longer where that step left it.
+    void Disturb() { ++revision; }
     bool NotifySelection();
     bool NotifyState(int newState);
     bool Capture(bool take);
@@ -68,6 +72,9 @@ class CGestureShape : public CVideoAnalyseShape {
     /// The position in whole pixels, kept inside the view as seen from `anchor`.
     PointF ClampToView(const PointF& anchor, const PointF& position) const;
 
+    /// Whether all points may be used in the shape's view.
+    bool AcceptsPoints(const Points& candidates) const;
+
     /// Moves the whole shape after the mouse and takes the mouse over as the new anchor; a refused step changes
     /// nothing.
     bool FollowMouse(const PointF& position);
@@ -81,8 +88,6 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Runs a callback into the host. False when the host answered by changing the shape.
     template <class Call>
     bool Undisturbed(Call call);
-    void Disturb() { ++revision; }
-
     MouseListener moveListener;
     MouseListener upListener;
     bool subscribed = false;

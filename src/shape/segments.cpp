@@ -27,6 +27,19 @@ bool Opposite(double side1, double side2) {
     return (side1 > 0.0 && side2 < 0.0) || (side1 < 0.0 && side2 > 0.0);
 }
 
+/// Whether an edge of the closed ring touches one of the ring's first `count` edges; those that share a vertex with it
+/// are left out.
+bool EdgeCrosses(const Points& ring, size_t edge, size_t count) {
+    const auto next = [&](size_t i) { return (i + 1) % ring.size(); };
+    for (size_t other = 0; other < count; ++other) {
+        const bool apart = other != edge && next(other) != edge && next(edge) != other;
+        if (apart && SegmentsCross(ring[edge], ring[next(edge)], ring[other], ring[next(other)])) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 bool SegmentsCross(const PointF& a, const PointF& b, const PointF& c, const PointF& d) {
@@ -68,6 +81,30 @@ bool IsConvex(const Points& ring) {
         }
     }
     return true;
+}
+
+bool LastEdgeCrosses(const Points& path) {
+    const size_t n = path.size();
+    return n >= 2 && EdgeCrosses(path, n - 2, n - 2);
+}
+
+bool ClosingEdgeCrosses(const Points& path) {
+    const size_t n = path.size();
+    return n > 0 && EdgeCrosses(path, n - 1, n - 1);
+}
+
+bool VertexCrosses(const Points& ring, size_t vertex) {
+    const size_t n = ring.size();
+    return EdgeCrosses(ring, vertex, n) || EdgeCrosses(ring, (vertex + n - 1) % n, n);
+}
+
+bool RingCrosses(const Points& ring) {
+    for (size_t edge = 0; edge < ring.size(); ++edge) {
+        if (EdgeCrosses(ring, edge, edge)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 } // namespace rulecanvas

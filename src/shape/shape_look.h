@@ -27,6 +27,12 @@ struct ShapeLook {
     float Thickness() const { return static_cast<float>(selected ? selThickness : unSelThickness); }
     float SelectedThickness() const { return static_cast<float>(selThickness); }
 
+    /// Whether `lastPoint` lies in the view, its borders included.
+    bool PointerInView() const {
+        return 0.0F <= lastPoint.x && lastPoint.x <= static_cast<float>(size.width) && 0.0F <= lastPoint.y &&
+               lastPoint.y <= static_cast<float>(size.height);
+    }
+
     /// The shape's font in the given colour and size.
     TextStyle Text(const ColorF& colour, float textSize) const {
         TextStyle style = textStyle;

@@ -119,13 +119,12 @@ bool COvalShape::Resize(const PointF& position) {
     const Keeps keeps = Handles[grabbedIndex].keeps;
     const PointF dragged{keeps == Keeps::X ? edgeFixPoint.x : position.x,
                          keeps == Keeps::Y ? edgeFixPoint.y : position.y};
-    const ClientRect rect = SpanRectangle(anchorPoint, dragged, ViewRect()).rect;
-    const ViewSize size = SizeOf(rect);
-    if (size.width < SmallestResize || size.height < SmallestResize) {
-        return false;
-    }
-    ReplacePoints(CornersOf(rect));
-    return true;
+    return EditPoints([&](Points& corners) {
+        const ClientRect rect = SpanRectangle(anchorPoint, dragged, ViewRect()).rect;
+        const ViewSize size = SizeOf(rect);
+        corners = CornersOf(rect);
+        return size.width >= SmallestResize && size.height >= SmallestResize;
+    });
 }
 
 bool COvalShape::OnButtonUp(const PointF& position, const ContainerMouseEvent& /*event*/) {

@@ -92,10 +92,9 @@ void CPixelCountShape::PrepareToDraw() {
 
 void CPixelCountShape::TakeOverVideoSize() {
     IShapeContainer* owner = GetContainer();
-    if (owner == nullptr || video.Known()) {
-        return;
+    if (owner != nullptr && !video.Known()) {
+        video = owner->GetPixelCount();
     }
-    video = owner->GetPixelCount();
 }
 
 void CPixelCountShape::Place(const ViewSize& display) {
@@ -105,10 +104,13 @@ void CPixelCountShape::Place(const ViewSize& display) {
     const PointF centre{static_cast<float>(display.width / 2), static_cast<float>(display.height / 2)};
     const PointF half{HalfSide(pixelWidth, display.width, video.width),
                       HalfSide(pixelHeight, display.height, video.height)};
-    placePending = !EditPoints([&](Points& corners) {
-        return BuildFromTwoPoints(PointF{centre.x - half.x, centre.y - half.y},
-                                  PointF{centre.x + half.x, centre.y + half.y}, corners);
+    const bool placed = EditPoints([&](Points& corners) {
+        return placePending && BuildFromTwoPoints(PointF{centre.x - half.x, centre.y - half.y},
+                                                  PointF{centre.x + half.x, centre.y + half.y}, corners);
     });
+    if (placed) {
+        placePending = false;
+    }
 }
 
 void CPixelCountShape::Measure(const ViewSize& display) {

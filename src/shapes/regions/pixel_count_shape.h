@@ -29,7 +29,7 @@ class CPixelCountShape : public CRectangleShape {
     std::atomic<int> pixelWidth{0};
     std::atomic<int> pixelHeight{0};
     /// The video's resolution as it was when a paint first knew it; used by the paint alone.
-    ViewSize video{-1, -1};
+    ViewSize video;
     /// The configured size waits for its corners.
     std::atomic<bool> placePending{false};
 };

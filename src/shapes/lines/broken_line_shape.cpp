@@ -1,0 +1,75 @@
+#include "shapes/lines/broken_line_shape.h"
+
+#include "shape/drawing.h"
+#include "shape/geometry.h"
+#include "shape/json_text.h"
+#include "shape/point_json.h"
+#include "shape/shape_factory.h"
+
+namespace rulecanvas {
+namespace {
+
+const bool registered = CShapeFactory::GetInstance().Register("BrokenLine", &MakeShape<CBrokenLineShape>);
+
+constexpr int BrokenLineType = 4;
+constexpr size_t FewestWritten = 2;
+
+} // namespace
+
+CBrokenLineShape::CBrokenLineShape() {
+    shapeType = BrokenLineType;
+}
+
+CVideoAnalyseShape* CBrokenLineShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    CVideoAnalyseShape* const answering = CClickPathShape::HitTestLButtonDown(event, hitLevel);
+    if (hitLevel == Inside) {
+        hitLevel = Outside; // the left button finds an open path by its segments alone
+    }
+    return answering;
+}
+
+bool CBrokenLineShape::IsOnOutline(const Points& path, const PointF& press) const {
+    return OnPath(path, press);
+}
+
+bool CBrokenLineShape::HandleRightPress(const PointF& press) {
+    CursorHook(press);
+    return true;
+}
+
+void CBrokenLineShape::StartEditing(const PointF& press, int hitLevel) {
+    if (canAdjust) {
+        CClickPathShape::StartEditing(press, hitLevel);
+    }
+}
+
+bool CBrokenLineShape::MoveTo(const PointF& position) {
+    return !canMove || CClickPathShape::MoveTo(position);
+}
+
+bool CBrokenLineShape::EndMove(const PointF& release) {
+    return MoveTo(release);
+}
+
+bool CBrokenLineShape::IsPoint(const Json::Value& element) const {
+    return element.isArray();
+}
+
+bool CBrokenLineShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
+    const Points path = CopyPoints();
+    if (buffer == nullptr || path.size() < FewestWritten) {
+        return false;
+    }
+    return CopyLine(WriteJson(WritePoints(name, path, KnownViewSize())), buffer, size);
+}
+
+void CBrokenLineShape::DrawRest(const ShapeLook& look, IContainerGraphics& surface) {
+    if (look.state != Drawing && !look.caption.empty()) {
+        DrawShowName(look, surface, look.Colour());
+    }
+    if (look.handles) {
+        DrawAdjustBoxes(look.points, surface, look.Colour());
+    }
+}
+
+} // namespace rulecanvas
