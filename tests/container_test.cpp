@@ -155,7 +155,7 @@ TEST(Container, HandsOutHandlersThatCompareEqual) {
 
     ReleaseVideoAnalyseContainer(container);
     ReleaseVideoAnalyseContainer(container);
-    const ContainerMouseEvent press{MOUSE_LEFT_DOWN, TheView, 0, 1, 1, 0, 0};
+    const ContainerMouseEvent press{RULECANVAS_MOUSE_LEFT_DOWN, TheView, 0, 1, 1, 0, 0};
     EXPECT_EQ(table.invoke(mouse.handler, 0, reinterpret_cast<uintptr_t>(&press)), 0U) << "the container is gone";
     table.destroy(mouse.handler, 1);
     draw.handler->table->destroy(draw.handler, 1);
@@ -183,30 +183,30 @@ TEST(Dispatch, GivesAPressToTheStrongestClaimAndToTheLowestIdOfEquals) {
 TEST(Dispatch, HidesOneViewFromTheShapesOfAnother) {
     ScenarioHost host;
     const ShapeID shape = host.Add("Rect", Square);
-    host.Send(MOUSE_LEFT_DOWN, 150, 150, TheView + 1);
+    host.Send(RULECANVAS_MOUSE_LEFT_DOWN, 150, 150, TheView + 1);
     EXPECT_EQ(host.TakeLog(), Lines{});
     EXPECT_EQ(host.Paint(TheView + 1), Lines{});
     const std::string before = host.Config(shape);
     host.Press(150, 150);
-    host.Send(MOUSE_MOVED, 300, 300, TheView + 1);
-    host.Send(MOUSE_LEFT_UP, 300, 300, TheView + 1);
+    host.Send(RULECANVAS_MOUSE_MOVED, 300, 300, TheView + 1);
+    host.Send(RULECANVAS_MOUSE_LEFT_UP, 300, 300, TheView + 1);
     EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on"})) << "the drag goes on";
     EXPECT_EQ(host.Config(shape), before);
 }
 
 TEST(Dispatch, AsksTheHostForRedrawsAndHints) {
     ScenarioHost host;
-    host.Send(MOUSE_KEY_DOWN, 0, 0);
+    host.Send(RULECANVAS_MOUSE_KEY_DOWN, 0, 0);
     EXPECT_EQ(host.TakeLog(), Lines{});
     host.container.sendKey(TheView, 27);
     EXPECT_EQ(host.TakeLog(), Lines{"redraw"}) << "Escape, without any shape";
     host.Add("Rect", Square);
-    host.Send(MOUSE_CURSOR_QUERY, 150, 150);
+    host.Send(RULECANVAS_MOUSE_CURSOR_QUERY, 150, 150);
     EXPECT_EQ(host.TakeLog(), Lines{}) << "no press yet";
     host.Click(150, 150);
     host.TakeLog();
     host.Move(150, 150);
-    host.Send(MOUSE_CURSOR_QUERY, 150, 150);
+    host.Send(RULECANVAS_MOUSE_CURSOR_QUERY, 150, 150);
     EXPECT_EQ(host.TakeLog(), Lines{"hint 4"}) << "the latest press hit the inside";
     for (const uint32_t code : {0U, 5U, 6U, 7U, 8U, 10U, 12U, ~0U}) {
         host.Send(code, 150, 150);

@@ -75,7 +75,7 @@ TEST(Reentry, IsSafeInEveryCallbackOfAGesture) {
             host.TakeLog();
             if (action.endsTheShape) {
                 EXPECT_EQ(host.Config(shape), "");
-                host.Send(MOUSE_MOVED_EVENT, 150, 150);
+                host.Send(RULECANVAS_MOUSE_MOVED_EVENT, 150, 150);
                 host.Release(150, 150);
                 EXPECT_EQ(host.TakeLog(), Lines{}) << "a listener stayed behind";
                 EXPECT_EQ(host.Paint(), Lines{});

@@ -134,8 +134,8 @@ class Container {
     bool deleteShape(ShapeID shape) { return isTrue(DeleteVideoAnalyseShape(m_handle, shape)); }
     void deleteAllShapes() { DeleteAllVideoAnalyseShape(m_handle); }
 
-    /* The geometry as one line of JSON with a line feed, on a grid of 0..8191 over the view; empty when the shape is
-     * unknown or not complete. */
+    /* The geometry as one line of JSON, ended by a line feed for some types, on a grid of 0..8191 over the view; empty when
+     * the shape is unknown or has no geometry yet. */
     Text configuration(ShapeID shape) const {
         return Text::readWith([this, shape](char* buffer, int32_t size) {
             return isTrue(GetVideoAnalyseShapeConfigData(m_handle, shape, buffer, size));

@@ -4,10 +4,7 @@
 #ifndef RULECANVAS_METHOD_HPP
 #define RULECANVAS_METHOD_HPP
 
-/* <windows.h> gives the name of an enumerator to a console flag, and GCC finds it odd that code called as a method is
- * not a member. */
-#pragma push_macro("MOUSE_MOVED")
-#undef MOUSE_MOVED
+/* GCC finds it odd that code called as a method is not a member. */
 #if defined(__GNUC__)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wattributes"
@@ -16,7 +13,6 @@
 #if defined(__GNUC__)
 #pragma GCC diagnostic pop
 #endif
-#pragma pop_macro("MOUSE_MOVED")
 
 /* A static function `R RULECANVAS_METHOD f(RULECANVAS_SELF, args...)` is entered as the library enters a method: on
  * 32-bit Windows the object is in ecx, edx carries nothing, the callee pops the rest. Every compiler accepts this form,

@@ -3,29 +3,34 @@
  * Conventions of this interface
  *
  *  1. Calls. On 32-bit Windows every exported function uses the standard calling convention and an undecorated name.
- * Code that is called on an object (delegates, handlers, the drawing surface, the host object) uses `thiscall`: the
- * object in ecx, the other arguments on the stack, popped by the callee. Elsewhere both are the platform's ordinary
- * convention.
+ *     Code that is called on an object (delegates, handlers, the drawing surface, the host object) uses `thiscall`:
+ *     the object in ecx, the other arguments on the stack, popped by the callee. Elsewhere both are the platform's
+ *     ordinary convention. Microsoft's compiler knows `thiscall` pointers in C++ only.
  *  2. Words. An argument or field of type uintptr_t is one machine word: 32 bits on 32-bit Windows.
  *  3. Booleans. A Bool32 result is exactly 0 or 1. Of a Bool32 argument only the low byte counts, in both directions,
- * so that a caller that pushes a one-byte boolean may leave junk above it.
- *  4. Identities. ContainerHandle, ShapeID and ViewID are 32-bit numbers; 0 names nothing. An unknown or stale handle
- * or ID is harmless: the call changes nothing and returns the failure value named with it.
- *  5. Texts are NUL-terminated bytes in whatever code page the host uses. They are stored, compared and written to JSON
- * byte for byte. The caller owns every text it passes; the library copies what it keeps. Texts that the library passes
- * to a callback are valid during that call only. A null text reads as the empty text unless stated otherwise.
- *  6. Output texts are copied into a buffer of the caller, whose size in bytes is signed; a null buffer or a size that
- * is too small (negative included) leaves the buffer untouched.
- *  7. Ownership. The library owns containers and shapes. Delegates are two words and are copied; their targets stay the
- *     host's and must live until the delegate is replaced or the container is released. A handler that the host fetched
- *     belongs to the host, which ends it through the handler's own table.
+ *     so that a caller that pushes a one-byte boolean may leave junk above it.
+ *  4. Identities. ContainerHandle, ShapeID and ViewID are 32-bit numbers; 0 names no container and no shape. An
+ *     unknown or stale handle or ID is harmless: the call changes nothing and returns the failure value named with
+ *     it. On 32-bit Windows an identity may be given again to an object that is made later.
+ *  5. Texts are NUL-terminated bytes in whatever code page the host uses. They are stored, compared and written to
+ *     JSON byte for byte. The caller owns every text it passes; the library copies what it keeps. Texts that the
+ *     library passes to a callback are valid during that call only. A null text reads as the empty text unless stated
+ *     otherwise.
+ *  6. Output texts are copied into a buffer of the caller, whose size in bytes is signed; a null buffer or a size
+ *     that is too small (negative included) leaves the buffer untouched.
+ *  7. Ownership. The library owns containers and shapes. Delegates are two words and are copied; their targets stay
+ *     the host's and must live until the container is released, or until the delegate is replaced and calls of it
+ *     that other threads had begun have returned. A handler that the host fetched belongs to the host, which ends it
+ *     through the handler's own table.
  *  8. Threads. The library starts none. Creating and releasing containers and GetVideoAnalyseAllShapestates must not
- * overlap any other call. The mouse handler must not run while another thread creates or deletes shapes of the same
- * container. The draw handler may run on a thread of its own beside all per-container calls. Callbacks arrive on the
- * thread of the call that caused them; any function may be called from inside a callback, even one that ends the
- * speaking shape.
- *  9. Units. Points are pixels of a view's client area, origin at the top left, y downwards. Configuration texts carry
- *     whole numbers on a grid of 0..8191 over the view's width and over its height.
+ *     overlap a call of another thread. The mouse handler must not run while another thread creates or deletes shapes
+ *     of the same container. The draw handler may run on a thread of its own beside all per-container calls.
+ *     Callbacks arrive on the thread of the call that caused them; any function may be called from inside a callback,
+ *     even one that ends the speaking shape or its container. A callback must not wait for another thread that is
+ *     inside the library: client rectangles are asked, and the capture is given back, while the container is locked
+ *     against deletion.
+ *  9. Units. Points are pixels of a view's client area, origin at the top left, y downwards. Configuration texts
+ *     carry whole numbers on a grid of 0..8191 over the view's width and over its height.
  * 10. Failure is a result, never an exception, and is not logged.
  */
 #ifndef RULECANVAS_RULECANVAS_H
@@ -53,7 +58,8 @@
 #define RULECANVAS_API
 #endif
 
-/* <windows.h> renames these; the drawing surface must be the same class with and without it. */
+/* <windows.h> renames these; the drawing surface must be the same class with and without it. A host that implements the
+ * surface itself after <windows.h> undefines both, or derives from Surface of host.hpp instead. */
 #pragma push_macro("DrawText")
 #pragma push_macro("DrawTextEx")
 #undef DrawText
@@ -99,15 +105,15 @@ typedef struct ClientRect {
 
 /* Values of ContainerMouseEvent::code; any other value is ignored. */
 enum ContainerMouseEventCode {
-    MOUSE_LEFT_DOWN = 1,
-    MOUSE_LEFT_UP = 2,
-    MOUSE_MOVED = 3,
-    MOUSE_RIGHT_DOWN = 4,
-    MOUSE_RIGHT_UP = 5,
-    MOUSE_MOVED_EVENT = 6,
-    MOUSE_CURSOR_QUERY = 9,
-    MOUSE_ALT_RIGHT_DOWN = 10,
-    MOUSE_KEY_DOWN = 11
+    RULECANVAS_MOUSE_LEFT_DOWN = 1,
+    RULECANVAS_MOUSE_LEFT_UP = 2,
+    RULECANVAS_MOUSE_MOVED = 3,
+    RULECANVAS_MOUSE_RIGHT_DOWN = 4,
+    RULECANVAS_MOUSE_RIGHT_UP = 5,
+    RULECANVAS_MOUSE_MOVED_EVENT = 6,
+    RULECANVAS_MOUSE_CURSOR_QUERY = 9,
+    RULECANVAS_MOUSE_ALT_RIGHT_DOWN = 10,
+    RULECANVAS_MOUSE_KEY_DOWN = 11
 };
 
 /* What the host passes to the mouse handler for every mouse and key event of a view. The record may be longer. */
@@ -118,7 +124,7 @@ typedef struct ContainerMouseEvent {
     float x;
     float y;
     uint16_t unused1;
-    uint16_t keyCode; /* Virtual-key code with MOUSE_KEY_DOWN; 27 is Escape. */
+    uint16_t keyCode; /* Virtual-key code with RULECANVAS_MOUSE_KEY_DOWN; 27 is Escape. */
 } ContainerMouseEvent;
 
 /* A bound member function of the host. Empty, and never called, when `target` is null. Equal when both words are equal.
@@ -275,21 +281,22 @@ typedef struct IContainerGraphics {
 } IContainerGraphics;
 #endif
 
-/* ---- Containers ----------------------------------------------------------------------------------------------------
- */
+/* ---- The exported functions ---- */
 
 /* Makes a container, disabled, without shapes and delegates. `hostObject` is not owned, must outlive the container, and
  * may be null: then no hint and no redraw is asked for. Returns 0 without memory. */
 RULECANVAS_API ContainerHandle RULECANVAS_CALL CreateVideoAnalyseContainer(void* hostObject);
 
-/* Destroys the container and its shapes. Handlers fetched from it do nothing from then on. */
+/* Destroys the container and its shapes. End the handlers fetched from it first: one that is kept does nothing, until a
+ * later container happens to get the same identity. */
 RULECANVAS_API void RULECANVAS_CALL ReleaseVideoAnalyseContainer(ContainerHandle container);
 
 /* Makes a shape of a registered type ("Rect", "LineShape", ...) in a view and returns its ID, or 0: unknown type,
- * refused configuration. The shape is selected. label   becomes "EventName" in every notification of the shape; name
- * names the shape in notifications and is the key of its geometry in `config`; null reads as "NoName"; config  JSON
- * object with the geometry; empty: the user draws the shape; option  JSON object with the style, or one mode word, as
- * the type understands it. */
+ * refused configuration. The shape is selected.
+ *   label   becomes "EventName" in every notification of the shape;
+ *   name    names the shape in notifications and is the key of its geometry in `config`; null reads as "NoName";
+ *   config  JSON object with the geometry; empty: the user draws the shape;
+ *   option  JSON object with the style, or one mode word, as the type understands it. */
 RULECANVAS_API ShapeID RULECANVAS_CALL CreateMainVideoAnalyseShape(ContainerHandle container, ViewID view,
                                                                    const char* label, const char* type,
                                                                    const char* name, const char* config,
@@ -335,8 +342,9 @@ RULECANVAS_API int32_t RULECANVAS_CALL SetVideoAnalyseShapeDirection(ContainerHa
 RULECANVAS_API Bool32 RULECANVAS_CALL EnableVideoAnalyseContainer(ContainerHandle container, Bool32 enable);
 
 /* Copies the shape's geometry, one line of JSON, into the buffer. 1 when a text was copied, else 0: unknown, the shape
- * is not complete, the buffer is too small. Size needed: the text and its terminating zero; polygons and crosses also
- * accept a buffer of exactly the text without the zero, which then stays away. */
+ * has no figure yet, the buffer is too small. A buffer that holds the text with its final line feed and a terminating
+ * zero is always large enough. Lines are written without the line feed; polygons, crosses and spots also go into a buffer
+ * of exactly the text's length, and then without the zero. */
 RULECANVAS_API Bool32 RULECANVAS_CALL GetVideoAnalyseShapeConfigData(ContainerHandle container, ShapeID shape,
                                                                      char* buffer, int32_t size);
 
@@ -344,7 +352,7 @@ RULECANVAS_API Bool32 RULECANVAS_CALL GetVideoAnalyseShapeConfigData(ContainerHa
  * when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL EnableVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 enable);
 
-/* Throws the figure away, so that the user draws it again. 1; 0 when unknown. */
+/* Throws the figure away, so that the user draws it again; an oval stays as it is. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL RedrawVideoAnalyseShape(ContainerHandle container, ShapeID shape);
 
 /* Sets the source of a view's client rectangle. It is asked on the mouse and on the paint thread. Unset, every

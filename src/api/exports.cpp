@@ -46,15 +46,6 @@ Bool32 PassOn(ContainerHandle handle, Words* words, Operation operation) {
     });
 }
 
-bool ReadBool(Bool32 value) {
-    constexpr Bool32 lowByte = 0xFF;
-    return (value & lowByte) != 0;
-}
-
-Bool32 ToBool(bool value) {
-    return value ? 1 : 0;
-}
-
 } // namespace
 
 extern "C" {
@@ -100,7 +91,7 @@ uint32_t RULECANVAS_CALL AddVideoAnalyseShape(ContainerHandle container, ShapeID
 }
 
 Bool32 RULECANVAS_CALL DeleteVideoAnalyseShape(ContainerHandle container, ShapeID shape) {
-    return OnContainer(container, [&](CVideoAnalyseContainer& found) { return ToBool(found.DeleteShape(shape)); });
+    return OnContainer(container, [&](CVideoAnalyseContainer& found) { return ToBool32(found.DeleteShape(shape)); });
 }
 
 void RULECANVAS_CALL DeleteAllVideoAnalyseShape(ContainerHandle container) {
@@ -109,7 +100,7 @@ void RULECANVAS_CALL DeleteAllVideoAnalyseShape(ContainerHandle container) {
 
 Bool32 RULECANVAS_CALL SelectVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 select) {
     return OnContainer(
-        container, [&](CVideoAnalyseContainer& found) { return ToBool(found.SelectShape(shape, ReadBool(select))); });
+        container, [&](CVideoAnalyseContainer& found) { return ToBool32(found.SelectShape(shape, ReadBool(select))); });
 }
 
 int32_t RULECANVAS_CALL SetVideoAnalyseShapeDirection(ContainerHandle container, ShapeID shape, int32_t direction) {
@@ -120,23 +111,23 @@ int32_t RULECANVAS_CALL SetVideoAnalyseShapeDirection(ContainerHandle container,
 Bool32 RULECANVAS_CALL EnableVideoAnalyseContainer(ContainerHandle container, Bool32 enable) {
     return OnContainer(container, [&](CVideoAnalyseContainer& found) {
         found.Enable(ReadBool(enable));
-        return ToBool(true);
+        return ToBool32(true);
     });
 }
 
 Bool32 RULECANVAS_CALL GetVideoAnalyseShapeConfigData(ContainerHandle container, ShapeID shape, char* buffer,
                                                       int32_t size) {
     return OnContainer(
-        container, [&](CVideoAnalyseContainer& found) { return ToBool(found.GetShapeConfig(shape, buffer, size)); });
+        container, [&](CVideoAnalyseContainer& found) { return ToBool32(found.GetShapeConfig(shape, buffer, size)); });
 }
 
 Bool32 RULECANVAS_CALL EnableVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 enable) {
     return OnContainer(
-        container, [&](CVideoAnalyseContainer& found) { return ToBool(found.EnableShape(shape, ReadBool(enable))); });
+        container, [&](CVideoAnalyseContainer& found) { return ToBool32(found.EnableShape(shape, ReadBool(enable))); });
 }
 
 Bool32 RULECANVAS_CALL RedrawVideoAnalyseShape(ContainerHandle container, ShapeID shape) {
-    return OnContainer(container, [&](CVideoAnalyseContainer& found) { return ToBool(found.RedrawShape(shape)); });
+    return OnContainer(container, [&](CVideoAnalyseContainer& found) { return ToBool32(found.RedrawShape(shape)); });
 }
 
 Bool32 RULECANVAS_CALL SetGetContainerRectClientDelegate(ContainerHandle container,
@@ -156,14 +147,14 @@ ShapeID RULECANVAS_CALL GetSelectedVideoAnalyseShapeID(ContainerHandle container
 Bool32 RULECANVAS_CALL SetVideoAnalyseShapeShowName(ContainerHandle container, ShapeID shape, const char* text) {
     return OnContainer(container, [&](CVideoAnalyseContainer& found) {
         found.SetShowName(shape, text);
-        return ToBool(true);
+        return ToBool32(true);
     });
 }
 
 Bool32 RULECANVAS_CALL ShowVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 show) {
     return OnContainer(container, [&](CVideoAnalyseContainer& found) {
         found.ShowShape(shape, ReadBool(show));
-        return ToBool(true);
+        return ToBool32(true);
     });
 }
 
@@ -175,35 +166,35 @@ Bool32 RULECANVAS_CALL SetContainerTranslateDelegate(ContainerHandle container,
 Bool32 RULECANVAS_CALL SetVideoAnalyseContainerTip(ContainerHandle container, ViewID view, const char* tip) {
     return OnContainer(container, [&](CVideoAnalyseContainer& found) {
         found.SetTip(view, tip);
-        return ToBool(true);
+        return ToBool32(true);
     });
 }
 
 Bool32 RULECANVAS_CALL InvalidateAllShape(ContainerHandle container) {
     return OnContainer(container, [](CVideoAnalyseContainer& found) {
         found.InvalidateAll();
-        return ToBool(true);
+        return ToBool32(true);
     });
 }
 
 Bool32 RULECANVAS_CALL SetAdjustBoxbShow(ContainerHandle container, ShapeID shape, Bool32 show) {
     return OnContainer(container, [&](CVideoAnalyseContainer& found) {
         found.ShowAdjustBox(shape, ReadBool(show));
-        return ToBool(true);
+        return ToBool32(true);
     });
 }
 
 Bool32 RULECANVAS_CALL SetVideoAnalyseShapeColor(ContainerHandle container, ShapeID shape, int32_t red, int32_t green,
                                                  int32_t blue, Bool32 selectedColour) {
     return OnContainer(container, [&](CVideoAnalyseContainer& found) {
-        return ToBool(found.SetShapeColor(shape, red, green, blue, ReadBool(selectedColour)));
+        return ToBool32(found.SetShapeColor(shape, red, green, blue, ReadBool(selectedColour)));
     });
 }
 
 Bool32 RULECANVAS_CALL SetVideoAnalyseShapeMaxPtNum(ContainerHandle container, ShapeID shape, int32_t maximum,
                                                     int32_t minimum) {
     return OnContainer(container, [&](CVideoAnalyseContainer& found) {
-        return ToBool(found.SetShapeMaxPtNum(shape, maximum, minimum));
+        return ToBool32(found.SetShapeMaxPtNum(shape, maximum, minimum));
     });
 }
 

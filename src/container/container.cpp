@@ -32,6 +32,7 @@ class UnfinishedShape {
     UnfinishedShape& operator=(const UnfinishedShape&) = delete;
 
     CVideoAnalyseShape* operator->() const { return shape.get(); }
+    const ShapePtr& Get() const { return shape; }
     ShapePtr Finish() { return std::exchange(shape, nullptr); }
 
   private:
@@ -57,9 +58,8 @@ ShapeID CVideoAnalyseContainer::CreateMainShape(ViewID view, const char* label, 
         return 0;
     }
     LockGuard guard(containerMutex);
-    const ShapePtr finished = shape.Finish();
-    shapes.Insert(finished);
-    return finished->GetShapeId();
+    shapes.Insert(shape.Get());
+    return shape.Finish()->GetShapeId();
 }
 
 uint32_t CVideoAnalyseContainer::AddToShape(ShapeID id, uint32_t first, uint32_t second, uint32_t third) {
@@ -85,8 +85,7 @@ bool CVideoAnalyseContainer::DeleteShape(ShapeID id) {
 void CVideoAnalyseContainer::DeleteAllShapes() {
     DebugTrace("DeleteAllVideoAnalyseShape\n");
     LockGuard guard(containerMutex);
-    for (const ShapePtr& shape : shapes.InOrder()) {
-        shapes.Erase(shape->GetShapeId());
+    for (const auto& [id, shape] : shapes.TakeAll()) {
         RetireOnce(*shape);
     }
 }
@@ -154,10 +153,6 @@ void CVideoAnalyseContainer::SetTip(ViewID view, const char* text) {
     tips[view] = TextOrEmpty(text);
 }
 
-void CVideoAnalyseContainer::InvalidateAll() {
-    FitAllShapes();
-}
-
 void CVideoAnalyseContainer::ShowAdjustBox(ShapeID id, bool show) {
     if (const ShapePtr shape = DeepFind(id)) {
         shape->SetAdjustBoxShow(show);
@@ -199,7 +194,7 @@ ShapePtr CVideoAnalyseContainer::FindParent(ShapeID id) const {
     return nullptr;
 }
 
-void CVideoAnalyseContainer::FitAllShapes() {
+void CVideoAnalyseContainer::InvalidateAll() {
     LockGuard guard(containerMutex);
     for (const ShapePtr& shape : shapes.InOrder()) {
         shape->FitToClientRect();
@@ -218,8 +213,7 @@ bool CVideoAnalyseContainer::IsInClientArea(ViewID view, const PointF& point) {
 }
 
 bool CVideoAnalyseContainer::RequestCapture(bool take) {
-    constexpr Bool32 lowByte = 0xFF;
-    return (captureDelegate(take ? 1U : 0U) & lowByte) != 0;
+    return ReadBool(captureDelegate(ToBool32(take)));
 }
 
 CVideoAnalyseContainer::MouseListenerList& CVideoAnalyseContainer::ListenersOf(MouseListenerKind kind) {

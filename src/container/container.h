@@ -57,6 +57,7 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     bool SetShowName(ShapeID id, const char* text);
     void ShowShape(ShapeID id, bool show);
     void SetTip(ViewID view, const char* text);
+    /// Refits every shape to the view.
     void InvalidateAll();
     void ShowAdjustBox(ShapeID id, bool show);
     bool SetShapeColor(ShapeID id, int red, int green, int blue, bool selectedColour);
@@ -64,9 +65,8 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     void SetPixelCount(int width, int height);
     ShapeSnapshot ShapesInOrder() const { return shapes.InOrder(); }
 
-    /// The answer of the listeners, where the event goes to listeners alone.
-    bool OnMouseEvent(const ContainerMouseEvent& event);
-    bool OnDraw(ViewID view, IContainerGraphics& surface);
+    void OnMouseEvent(const ContainerMouseEvent& event);
+    void OnDraw(ViewID view, IContainerGraphics& surface);
 
     ClientRect GetClientRect(ViewID view) override;
     bool IsInClientArea(ViewID view, const PointF& point) override;
@@ -89,14 +89,13 @@ class CVideoAnalyseContainer final : public IShapeContainer,
 
     ShapePtr DeepFind(ShapeID id) const;
     ShapePtr FindParent(ShapeID id) const;
-    void FitAllShapes();
     MouseListenerList& ListenersOf(MouseListenerKind kind);
 
     ShapePtr FindHitShape(const ContainerMouseEvent& event, HitTest hitTest);
     void DispatchLeftDown(const ContainerMouseEvent& event);
     void DispatchRightDown(const ContainerMouseEvent& event, HitTest hitTest);
     void DispatchMove(const ContainerMouseEvent& event);
-    bool DispatchCursorQuery(const ContainerMouseEvent& event);
+    void DispatchCursorQuery(const ContainerMouseEvent& event);
     void DispatchKey(const ContainerMouseEvent& event);
     void RequestRedraw();
     void OfferToAllShapes(const ContainerMouseEvent& event);
@@ -127,7 +126,7 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     mutable std::mutex tipMutex;
     std::map<ViewID, std::string> tips;
     TextStyle containerTextStyle{OpaqueColour(255, 255, 0), 0.0F, "STHeitiSC-Light"};
-    const HostObject host;
+    const HostCalls host;
     /// Held while shapes are inserted, deleted or refitted, also across their calls: the thread that holds it may call
     /// back.
     platform::Mutex containerMutex;

@@ -40,12 +40,13 @@ namespace {
 
 /// Runs an operation of a live container on behalf of the host, to whom no exception may escape.
 template <class Operation>
-uintptr_t RunForHost(void* address, Operation operation) {
+void RunForHost(void* address, Operation operation) {
     try {
-        const std::shared_ptr<CVideoAnalyseContainer> container = LiveContainers::Instance()->Pin(address);
-        return container != nullptr && operation(*container) ? 1 : 0;
+        if (const std::shared_ptr<CVideoAnalyseContainer> container = LiveContainers::Instance()->Pin(address)) {
+            operation(*container);
+        }
     } catch (...) {
-        return 0; // out of memory: the event is lost, the shapes stay as they are
+        // out of memory: the rest of the event is lost
     }
 }
 
@@ -61,12 +62,14 @@ CVideoAnalyseContainer::CVideoAnalyseContainer(void* hostObject)
     : handle(platform::IssueIdentity(this)), liveContainers(LiveContainers::Instance()),
       drawHandler(this, &DrawOperation), mouseHandler(this, &MouseOperation), host(hostObject) {}
 
-CVideoAnalyseContainer::~CVideoAnalyseContainer() = default;
+CVideoAnalyseContainer::~CVideoAnalyseContainer() {
+    liveContainers->Remove(this);
+}
 
 void CVideoAnalyseContainer::Close() {
     closed = true;
-    DeleteAllShapes();
     liveContainers->Remove(this);
+    DeleteAllShapes();
     for (const auto& clear :
          {&CVideoAnalyseContainer::SetNotifyDelegate, &CVideoAnalyseContainer::SetAdjustPointDelegate,
           &CVideoAnalyseContainer::SetClientRectDelegate, &CVideoAnalyseContainer::SetCaptureDelegate,
@@ -77,18 +80,18 @@ void CVideoAnalyseContainer::Close() {
 
 uintptr_t RULECANVAS_THISCALL CVideoAnalyseContainer::MouseOperation(void* container, uintptr_t /*ignored*/,
                                                                      uintptr_t event) {
-    return RunForHost(container, [&](CVideoAnalyseContainer& live) {
-        const auto* record = reinterpret_cast<const ContainerMouseEvent*>(event);
-        return record != nullptr && live.OnMouseEvent(*record);
-    });
+    if (const auto* record = reinterpret_cast<const ContainerMouseEvent*>(event)) {
+        RunForHost(container, [&](CVideoAnalyseContainer& live) { live.OnMouseEvent(*record); });
+    }
+    return 0;
 }
 
 uintptr_t RULECANVAS_THISCALL CVideoAnalyseContainer::DrawOperation(void* container, uintptr_t view,
                                                                     uintptr_t surface) {
-    return RunForHost(container, [&](CVideoAnalyseContainer& live) {
-        auto* graphics = reinterpret_cast<IContainerGraphics*>(surface);
-        return graphics != nullptr && live.OnDraw(static_cast<ViewID>(view), *graphics);
-    });
+    if (auto* graphics = reinterpret_cast<IContainerGraphics*>(surface)) {
+        RunForHost(container, [&](CVideoAnalyseContainer& live) { live.OnDraw(static_cast<ViewID>(view), *graphics); });
+    }
+    return 0;
 }
 
 } // namespace rulecanvas

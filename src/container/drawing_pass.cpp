@@ -11,13 +11,13 @@ float MiddleOf(int32_t first, int32_t second) {
 
 } // namespace
 
-bool CVideoAnalyseContainer::OnDraw(ViewID view, IContainerGraphics& surface) {
+void CVideoAnalyseContainer::OnDraw(ViewID view, IContainerGraphics& surface) {
     if (!enabled) {
-        return false;
+        return;
     }
     DrawTip(view, surface);
-    FitAllShapes();
-    return drawListeners.Invoke(view, &surface);
+    InvalidateAll();
+    drawListeners.Invoke(view, &surface);
 }
 
 void CVideoAnalyseContainer::DrawTip(ViewID view, IContainerGraphics& surface) {

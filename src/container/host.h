@@ -8,11 +8,10 @@
 namespace rulecanvas {
 
 /// The object that the host gave at creation; null is never called.
-class HostObject {
+class HostCalls {
   public:
-    explicit HostObject(void* hostObject) : host(hostObject) {}
+    explicit HostCalls(void* hostObject) : host(hostObject) {}
 
-    bool Exists() const { return host != nullptr; }
     void SetInteractionHint(uint32_t value) const { Call(RULECANVAS_HOST_SET_INTERACTION_HINT, value); }
     void RequestRedraw(uint32_t value) const { Call(RULECANVAS_HOST_REQUEST_REDRAW, value); }
 

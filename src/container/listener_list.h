@@ -37,16 +37,14 @@ class ListenerList {
         }
     }
 
-    /// True when a listener returned true and the list stops on that.
-    bool Invoke(Arguments... arguments) {
+    void Invoke(Arguments... arguments) {
         const std::shared_ptr<const Entries> current = Snapshot();
         for (const auto& entry : *current) {
             const std::shared_ptr<CVideoAnalyseShape> pinned = entry->owner.lock();
-            if (pinned && entry->registered && entry->listener(arguments...) && stopOnTrue) {
-                return true;
+            if (pinned && entry->registered) {
+                entry->listener(arguments...);
             }
         }
-        return false;
     }
 
   private:
@@ -70,7 +68,6 @@ class ListenerList {
 
     Entries entries;
     std::shared_ptr<const Entries> snapshot; // null after a change
-    const bool stopOnTrue = false;
     platform::Mutex mutex;
 };
 

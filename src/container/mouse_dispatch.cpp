@@ -9,36 +9,40 @@ constexpr uint16_t EscapeKey = 27;
 
 } // namespace
 
-bool CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
+void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
     if (!enabled) {
-        return false;
+        return;
     }
     switch (event.code) {
-    case MOUSE_LEFT_DOWN:
+    case RULECANVAS_MOUSE_LEFT_DOWN:
         DispatchLeftDown(event);
-        return false;
-    case MOUSE_LEFT_UP:
-        return buttonUpListeners.Invoke(event);
-    case MOUSE_MOVED:
+        break;
+    case RULECANVAS_MOUSE_LEFT_UP:
+        buttonUpListeners.Invoke(event);
+        break;
+    case RULECANVAS_MOUSE_MOVED:
         DispatchMove(event);
-        return false;
-    case MOUSE_RIGHT_DOWN:
+        break;
+    case RULECANVAS_MOUSE_RIGHT_DOWN:
         DispatchRightDown(event, &CVideoAnalyseShape::HitTestRButtonDown);
-        return false;
-    case MOUSE_RIGHT_UP:
-        return rightButtonUpListeners.Invoke(event);
-    case MOUSE_MOVED_EVENT:
-        return mouseMovedListeners.Invoke(event);
-    case MOUSE_CURSOR_QUERY:
-        return DispatchCursorQuery(event);
-    case MOUSE_ALT_RIGHT_DOWN:
+        break;
+    case RULECANVAS_MOUSE_RIGHT_UP:
+        rightButtonUpListeners.Invoke(event);
+        break;
+    case RULECANVAS_MOUSE_MOVED_EVENT:
+        mouseMovedListeners.Invoke(event);
+        break;
+    case RULECANVAS_MOUSE_CURSOR_QUERY:
+        DispatchCursorQuery(event);
+        break;
+    case RULECANVAS_MOUSE_ALT_RIGHT_DOWN:
         DispatchRightDown(event, &CVideoAnalyseShape::HitTestAltRButtonEvent);
-        return false;
-    case MOUSE_KEY_DOWN:
+        break;
+    case RULECANVAS_MOUSE_KEY_DOWN:
         DispatchKey(event);
-        return false;
+        break;
     default:
-        return false;
+        break;
     }
 }
 
@@ -63,24 +67,24 @@ void CVideoAnalyseContainer::DispatchMove(const ContainerMouseEvent& event) {
     OfferToAllShapes(event);
 }
 
-bool CVideoAnalyseContainer::DispatchCursorQuery(const ContainerMouseEvent& event) {
+void CVideoAnalyseContainer::DispatchCursorQuery(const ContainerMouseEvent& event) {
     if (hitLevel == Inside || hitLevel == OnOutline) {
         SendHostHint(GrabHint);
     }
-    return mouseMovedListeners.Invoke(event);
+    mouseMovedListeners.Invoke(event);
 }
 
 void CVideoAnalyseContainer::DispatchKey(const ContainerMouseEvent& event) {
     if (event.keyCode == EscapeKey) {
         RequestRedraw();
-        OfferToAllShapes(event);
     }
+    OfferToAllShapes(event);
 }
 
 /// The shape with the strongest claim, the first one of equals. A press also deselects, on its way, every selected
 /// shape that it passes by.
 ShapePtr CVideoAnalyseContainer::FindHitShape(const ContainerMouseEvent& event, HitTest hitTest) {
-    const bool leftPress = event.code == MOUSE_LEFT_DOWN;
+    const bool leftPress = event.code == RULECANVAS_MOUSE_LEFT_DOWN;
     ShapePtr winner;
     hitLevel = Miss;
     for (const ShapePtr& shape : shapes.InOrder()) {

@@ -1,5 +1,7 @@
 #include "container/shape_map.h"
 
+#include <utility>
+
 namespace rulecanvas {
 
 void ShapeMap::Insert(const ShapePtr& shape) {
@@ -12,6 +14,12 @@ void ShapeMap::Erase(ShapeID id) {
     const std::lock_guard<std::mutex> guard(mutex);
     shapes.erase(id);
     ordered.reset();
+}
+
+std::map<ShapeID, ShapePtr> ShapeMap::TakeAll() {
+    const std::lock_guard<std::mutex> guard(mutex);
+    ordered.reset();
+    return std::exchange(shapes, {});
 }
 
 ShapePtr ShapeMap::Find(ShapeID id) const {

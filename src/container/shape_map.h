@@ -30,6 +30,8 @@ class ShapeMap {
   public:
     void Insert(const ShapePtr& shape);
     void Erase(ShapeID id);
+    /// Empties the map.
+    std::map<ShapeID, ShapePtr> TakeAll();
     /// Null when unknown.
     ShapePtr Find(ShapeID id) const;
     /// All shapes in ascending order of ShapeID.

@@ -57,7 +57,7 @@ Points CornersOf(const ClientRect& rect);
 /// The points moved by (dx, dy).
 Points Moved(const Points& points, float dx, float dy);
 
-/// Both differences, truncated, are below `limit`.
+/// Both differences are below `limit`; since that is whole, truncating them first would not matter.
 bool CloserThan(int limit, const PointF& a, const PointF& b);
 
 /// The two ends of an arrow's barbs at the tip `b` of the shaft from `a`.
@@ -66,8 +66,8 @@ struct ArrowBarbs {
     PointF second;
 };
 
-/// The two places that ask for an arrow were given different values of pi; both are kept, so that every arrow stays
-/// where it was drawn before.
+/// Arrow heads and direction arrows round pi differently. Both roundings are part of how figures look, to the last bit,
+/// and are not to be unified.
 double ArrowHeadHalfAngle();
 double DirectionArrowHalfAngle();
 

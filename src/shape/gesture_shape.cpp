@@ -59,8 +59,8 @@ void CGestureShape::ClearShape() {
 }
 
 bool CGestureShape::RestartDrawing() {
+    state = Waiting; // first, because the host may draw the shape anew while it is cleared
     ClearShape();
-    state = Waiting;
     return true;
 }
 
@@ -158,6 +158,7 @@ bool CGestureShape::Capture(bool take) {
 
 void CGestureShape::Subscribe() {
     IShapeContainer* owner = GetContainer();
+    platform::LockGuard guard(lock);
     if (owner != nullptr && !subscribed) {
         owner->RegisterWinMouseEvent(MouseListenerKind::ButtonUp, weak_from_this(), upListener);
         owner->RegisterWinMouseEvent(MouseListenerKind::MouseMoved, weak_from_this(), moveListener);
@@ -167,6 +168,7 @@ void CGestureShape::Subscribe() {
 
 void CGestureShape::Unsubscribe() {
     IShapeContainer* owner = GetContainer();
+    platform::LockGuard guard(lock);
     if (owner != nullptr && subscribed) {
         owner->unRegisterWinMouseEvent(MouseListenerKind::ButtonUp, upListener);
         owner->unRegisterWinMouseEvent(MouseListenerKind::MouseMoved, moveListener);
@@ -184,10 +186,10 @@ void CGestureShape::DeleteByRightButton(int hitLevel) {
     if (!enableRBtnDelete || (hitLevel != OnOutline && hitLevel != Inside)) {
         return;
     }
-    const int previous = state;
+    const int previous = state.exchange(Deleted);
     ClearShape();
-    if (Undisturbed([&] { StateNotifyHook(previous, Deleted); })) {
-        state = Deleted;
+    if (state == Deleted) { // else the host began it anew
+        StateNotifyHook(previous, Deleted);
     }
 }
 

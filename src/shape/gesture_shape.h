@@ -90,7 +90,7 @@ class CGestureShape : public CVideoAnalyseShape {
     bool Undisturbed(Call call);
     MouseListener moveListener;
     MouseListener upListener;
-    bool subscribed = false;
+    std::atomic<bool> subscribed{false};
     std::atomic<unsigned> revision{0};
 };
 

@@ -105,6 +105,9 @@ void CVideoAnalyseShape::FitToClientRect() {
         return; // a minimised window must not collapse its figures
     }
     LockGuard guard(lock);
+    if (clientWidth <= 0 || clientHeight <= 0) {
+        return; // another thread asked while the view had no size
+    }
     const double scaleX = rect.right * 1.0 / clientWidth;
     const double scaleY = rect.bottom * 1.0 / clientHeight;
     if (scaleX != 1.0 || scaleY != 1.0) {
@@ -241,8 +244,7 @@ ClientRect CVideoAnalyseShape::ViewRect() const {
 }
 
 ViewSize CVideoAnalyseShape::KnownViewSize() {
-    const ViewSize size = FittedSize();
-    if (size.width == 0 || size.height == 0) {
+    if (!FittedSize().Known()) {
         AskViewSize();
     }
     return FittedSize();

@@ -35,7 +35,7 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     virtual void HandleLButtonDownEvent(const ContainerMouseEvent& event, int hitLevel);
     virtual void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel);
     virtual void OnReservedEvent(uint32_t first, uint32_t second);
-    /// Offered to every shape on moves and on Escape.
+    /// Offered to every shape on moves and keys.
     virtual void HandleContainerEvent(const ContainerMouseEvent& event, int hitLevel);
     virtual void GetShapePoints(Points& out) const;
     /// Takes a new configuration. Each text may be null. False: refused.
@@ -56,8 +56,8 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     virtual bool GetPressPoint(PointF& out) const;
     virtual void SetShapePoints(Points newPoints);
     virtual void SetSubShapeShowName(ShapeID id, const char* text);
-    /// Rescales the points to the client rectangle that the host reports for view 0, whatever view the shape is in: a
-    /// container's views show the same picture, and existing hosts answer for view 0.
+    /// Rescales the points to the client rectangle that the host reports for view 0, whatever view the shape is in: the
+    /// views of a container show one picture in one size, and view 0 stands for all of them.
     virtual void FitToClientRect();
     virtual int GetShapeDirection() const;
 
@@ -116,8 +116,8 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     size_t PointCount() const;
     void ReplacePoints(Points newPoints);
     void AppendPoint(const PointF& point);
-    /// Runs `edit` on a copy of the points, without the lock, and takes the copy over when it returns true and the
-    /// points were not changed by anyone else in the meantime. False: nothing changed.
+    /// Runs `edit` on a copy of the points, without the lock, and takes the copy over when it returns true and
+    /// neither the points nor the state changed in the meantime. False: nothing changed.
     template <class Edit>
     bool EditPoints(Edit edit);
     /// A consistent copy of all that drawing needs.
@@ -166,7 +166,6 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
 
   private:
     void AskViewSize();
-    void SetStyleColour(const std::string& colourName, const ColorF& colour);
     bool IsInView(ViewID view, const PointF& point);
 
     const ShapeID shapeId;
@@ -192,6 +191,7 @@ template <class Edit>
 bool CVideoAnalyseShape::EditPoints(Edit edit) {
     Points edited;
     unsigned version = 0;
+    const int stateBefore = state;
     {
         platform::LockGuard guard(lock);
         edited = points;
@@ -201,7 +201,7 @@ bool CVideoAnalyseShape::EditPoints(Edit edit) {
         return false;
     }
     platform::LockGuard guard(lock);
-    if (version != pointsVersion) {
+    if (version != pointsVersion || stateBefore != state) {
         return false;
     }
     points = std::move(edited);

@@ -39,6 +39,15 @@ constexpr ColorF OpaqueColour(float red, float green, float blue) {
     return ColorF{1.0F, red, green, blue};
 }
 
+/// Of a boolean of the host only the low byte counts.
+constexpr bool ReadBool(Bool32 value) {
+    return (value & 0xFFU) != 0;
+}
+
+constexpr Bool32 ToBool32(bool value) {
+    return value ? 1U : 0U;
+}
+
 inline bool operator==(const PointF& a, const PointF& b) {
     return a.x == b.x && a.y == b.y;
 }

@@ -30,11 +30,11 @@ class ScenarioHost {
     /// A shape labelled "label" and named "rule". Forgets what was written down while it was made.
     ShapeID Add(const char* type, const std::string& config = "", const std::string& option = "");
 
-    void Press(float x, float y) { Send(MOUSE_LEFT_DOWN, x, y); }
-    void Move(float x, float y) { Send(MOUSE_MOVED, x, y); }
-    void Release(float x, float y) { Send(MOUSE_LEFT_UP, x, y); }
+    void Press(float x, float y) { Send(RULECANVAS_MOUSE_LEFT_DOWN, x, y); }
+    void Move(float x, float y) { Send(RULECANVAS_MOUSE_MOVED, x, y); }
+    void Release(float x, float y) { Send(RULECANVAS_MOUSE_LEFT_UP, x, y); }
     void Click(float x, float y);
-    void RightPress(float x, float y) { Send(MOUSE_RIGHT_DOWN, x, y); }
+    void RightPress(float x, float y) { Send(RULECANVAS_MOUSE_RIGHT_DOWN, x, y); }
     /// Press, one move to the end, release there.
     void Drag(const PointF& from, const PointF& to);
     void Send(uint32_t code, float x, float y, ViewID view = TheView);

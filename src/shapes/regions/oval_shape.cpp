@@ -68,7 +68,7 @@ void COvalShape::ClearShape() {
 }
 
 bool COvalShape::RestartDrawing() {
-    return CVideoAnalyseShape::RestartDrawing();
+    return true;
 }
 
 void COvalShape::StartDrawing(const PointF& press) {

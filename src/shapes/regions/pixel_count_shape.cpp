@@ -101,7 +101,9 @@ void CPixelCountShape::Place(const ViewSize& display) {
     if (!placePending) {
         return;
     }
-    const PointF centre{static_cast<float>(display.width / 2), static_cast<float>(display.height / 2)};
+    const int centreX = display.width / 2;
+    const int centreY = display.height / 2;
+    const PointF centre{static_cast<float>(centreX), static_cast<float>(centreY)};
     const PointF half{HalfSide(pixelWidth, display.width, video.width),
                       HalfSide(pixelHeight, display.height, video.height)};
     const bool placed = EditPoints([&](Points& corners) {

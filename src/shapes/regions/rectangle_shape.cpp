@@ -115,8 +115,8 @@ bool CRectangleShape::OnButtonUp(const PointF& position, const ContainerMouseEve
 }
 
 bool CRectangleShape::FinishDrawing(const PointF& release, const ContainerMouseEvent& event) {
-    if (!EndGesture()) {
-        return false;
+    if (state != Drawing || !EndGesture()) {
+        return false; // the host answered a question of this step by ending the drawing
     }
     if (release == anchorPoint || !RebuildFromAnchor(release)) {
         ClearPoints();
