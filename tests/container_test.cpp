@@ -208,6 +208,13 @@ TEST(Dispatch, AsksTheHostForRedrawsAndHints) {
     host.Move(150, 150);
     host.Send(RULECANVAS_MOUSE_CURSOR_QUERY, 150, 150);
     EXPECT_EQ(host.TakeLog(), Lines{"hint 4"}) << "the latest press hit the inside";
+    host.Press(98, 100); // the outline
+    host.TakeLog();
+    host.container.enable(false);
+    host.Press(700, 500);
+    host.container.enable();
+    host.Send(RULECANVAS_MOUSE_CURSOR_QUERY, 150, 150);
+    EXPECT_EQ(host.TakeLog(), Lines{"hint 4"}) << "a disabled container forgets nothing";
     for (const uint32_t code : {0U, 5U, 6U, 7U, 8U, 10U, 12U, ~0U}) {
         host.Send(code, 150, 150);
     }
@@ -215,8 +222,50 @@ TEST(Dispatch, AsksTheHostForRedrawsAndHints) {
 
     Container withoutHost;
     withoutHost.enable();
-    withoutHost.sendKey(TheView, 27);
+    withoutHost.addShape({TheView, "Rect"});
+    withoutHost.sendMouse(MouseCode::leftDown, TheView, 0, 0); // busy
     withoutHost.sendMouse(MouseCode::moved, TheView, 1, 1);
+    withoutHost.sendKey(TheView, 27);
+}
+
+TEST(Dispatch, FeedsEveryKindOfMoveToADrag) {
+    for (const uint32_t code : {RULECANVAS_MOUSE_MOVED, RULECANVAS_MOUSE_MOVED_EVENT, RULECANVAS_MOUSE_CURSOR_QUERY}) {
+        ScenarioHost host;
+        const ShapeID shape = host.Add("Rect", Square);
+        const std::string before = host.Config(shape);
+        host.Press(150, 150);
+        host.Send(code, 160, 160);
+        EXPECT_NE(host.Config(shape), before) << code;
+    }
+}
+
+TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
+    ScenarioHost host;
+    const ShapeID shape = host.Add("Rect");
+    host.Drag({100, 100}, {200, 200});
+    host.rectOfViewZero = ClientRect{0, 0, 400, 300};
+    EXPECT_TRUE(host.container.refitShapes());
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[2048,2730]]})") << "the same place of a smaller view";
+    host.Drag({100, 100}, {900, 700});
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
+}
+
+TEST(Container, DrawsInTheOrderOfCreation) {
+    ScenarioHost host;
+    for (const char* caption : {"1", "2", "3", "4"}) {
+        const ShapeID shape = host.Add("Rect", Square, "TextOnly");
+        host.container.setCaption(shape, caption);
+    }
+    std::string drawn;
+    for (const std::string& call : host.Paint()) {
+        drawn += call.substr(call.find('"') + 1, 1);
+    }
+    EXPECT_EQ(drawn, "1234");
+    EXPECT_NE(host.container.selectedShape(), 0U) << "all are selected: the lowest is named";
+    host.container.ignoreNotifications();
+    host.TakeLog();
+    host.Drag({150, 150}, {160, 160});
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture off"}));
 }
 
 TEST(Container, DrawsATipUntilAPressHitsAShapeOfTheView) {
@@ -232,6 +281,8 @@ TEST(Container, DrawsATipUntilAPressHitsAShapeOfTheView) {
     EXPECT_EQ(host.Paint().size(), 1U) << "no shape, the tip stays";
     const ShapeID shape = host.Add("Rect", Square);
     host.container.showShape(shape, false);
+    host.RightPress(150, 150);
+    EXPECT_EQ(host.Paint().size(), 1U) << "a right press leaves it";
     host.Click(10, 10);
     EXPECT_EQ(host.Paint(), Lines{});
 }
@@ -285,10 +336,13 @@ TEST(StateReport, ListsTheShapesOfAllContainers) {
                R"(,"ShapeName":"rule","ShapeType":5,"bSelShape":)" + (selected ? "true}" : "false}");
     };
     const bool oneFirst = one.container.handle() < two.container.handle();
-    char report[500] = "";
-    GetVideoAnalyseAllShapestates(report, sizeof(report));
-    EXPECT_EQ(report,
-              "[" + (oneFirst ? entry(a, false) + "," + entry(b, true) : entry(b, true) + "," + entry(a, false)) + "]");
+    const std::string expected =
+        "[" + (oneFirst ? entry(a, false) + "," + entry(b, true) : entry(b, true) + "," + entry(a, false)) + "]";
+    std::string report(expected.size() + 1, '#');
+    GetVideoAnalyseAllShapestates(report.data(), static_cast<int32_t>(expected.size()));
+    EXPECT_EQ(report, std::string(expected.size() + 1, '#')) << "one byte short";
+    GetVideoAnalyseAllShapestates(report.data(), static_cast<int32_t>(report.size()));
+    EXPECT_EQ(report, expected + '\0');
 }
 
 } // namespace

@@ -10,32 +10,39 @@
 namespace rulecanvas::test {
 namespace {
 
-using Action = std::function<void(ScenarioHost&, ShapeID)>;
-
-struct NamedAction {
+struct Action {
     const char* name;
-    Action run;
-    bool endsTheShape;
+    std::function<void(ScenarioHost&, ShapeID)> run;
+    bool endsTheShape = false;
 };
 
-const NamedAction Actions[] = {
+const Action Actions[] = {
     {"delete the shape", [](ScenarioHost& host, ShapeID shape) { host.container.deleteShape(shape); }, true},
     {"delete all", [](ScenarioHost& host, ShapeID) { host.container.deleteAllShapes(); }, true},
     {"release the container",
      [](ScenarioHost& host, ShapeID) { ReleaseVideoAnalyseContainer(host.container.handle()); }, true},
-    {"draw anew", [](ScenarioHost& host, ShapeID shape) { host.container.redrawShape(shape); }, false},
-    {"paint and refit",
+    {"draw anew", [](ScenarioHost& host, ShapeID shape) { host.container.redrawShape(shape); }},
+    {"draw anew and press",
+     [](ScenarioHost& host, ShapeID shape) {
+         host.container.redrawShape(shape);
+         host.Press(300, 300);
+     }},
+    {"press", [](ScenarioHost& host, ShapeID) { host.Press(150, 150); }},
+    {"move and release",
      [](ScenarioHost& host, ShapeID) {
+         host.Move(120, 130);
+         host.Release(120, 130);
+     }},
+    {"disable and paint",
+     [](ScenarioHost& host, ShapeID shape) {
+         host.container.enableShape(shape, false);
          host.Paint();
-         host.container.refitShapes();
-     },
-     false},
-    {"move the mouse", [](ScenarioHost& host, ShapeID) { host.Move(120, 130); }, false},
+         host.container.enableShape(shape);
+     }},
     {"make another",
      [](ScenarioHost& host, ShapeID) {
-         host.container.addShape({TheView, "Rect"});
-     },
-     false},
+         host.container.addShape({TheView + 1, "Rect"});
+     }},
 };
 
 /// Draws, moves, resizes and deletes one shape; every kind of callback comes.
@@ -43,99 +50,143 @@ void EditFromBeginningToEnd(ScenarioHost& host) {
     host.Drag({100, 100}, {200, 200});
     host.Drag({150, 150}, {160, 160});
     host.Drag({210, 210}, {260, 260});
+    host.Paint();
     host.RightPress(150, 150);
 }
 
-size_t CallbacksOfOneRun() {
-    ScenarioHost host;
-    host.Add("Rect", "", "EnableRBtnDelete");
+/// Runs the action inside the callback of that number; the number of callbacks when it is beyond them.
+size_t ActInside(ScenarioHost& host, ShapeID shape, const Action& action, size_t at) {
+    size_t seen = 0;
+    bool acting = false;
+    host.onEntry = [&](const std::string&) {
+        if (!acting && seen++ == at) {
+            acting = true;
+            action.run(host, shape);
+            acting = false;
+        }
+    };
     EditFromBeginningToEnd(host);
-    return host.TakeLog().size();
+    host.onEntry = nullptr;
+    return seen;
 }
 
-TEST(Reentry, IsSafeInEveryCallbackOfAGesture) {
-    const size_t callbacks = CallbacksOfOneRun();
-    ASSERT_GT(callbacks, 10U);
-    for (const NamedAction& action : Actions) {
+TEST(Reentry, LeavesNothingHalfMadeInAnyCallbackOfAGesture) {
+    for (const Action& action : Actions) {
+        size_t callbacks = 1;
         for (size_t at = 0; at < callbacks; ++at) {
             SCOPED_TRACE(action.name + std::string(" at callback ") + std::to_string(at));
             ScenarioHost host;
             const ShapeID shape = host.Add("Rect", "", "EnableRBtnDelete");
-            size_t seen = 0;
-            bool acting = false;
-            host.onEntry = [&](const std::string&) {
-                if (!acting && seen++ == at) {
-                    acting = true;
-                    action.run(host, shape);
-                    acting = false;
-                }
-            };
-            EditFromBeginningToEnd(host);
-            host.onEntry = nullptr;
+            callbacks = ActInside(host, shape, action, at);
+            host.container.redrawShape(shape);
             host.TakeLog();
+            host.Drag({300, 300}, {400, 400});
             if (action.endsTheShape) {
-                EXPECT_EQ(host.Config(shape), "");
-                host.Send(RULECANVAS_MOUSE_MOVED_EVENT, 150, 150);
-                host.Release(150, 150);
                 EXPECT_EQ(host.TakeLog(), Lines{}) << "a listener stayed behind";
                 EXPECT_EQ(host.Paint(), Lines{});
+            } else {
+                EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture off", "state rule 2>3"}));
             }
         }
+        EXPECT_GT(callbacks, action.endsTheShape ? 0U : 20U) << "there was nothing to act in";
     }
 }
 
-TEST(Reentry, ADrawingAnewInsideAGestureWins) {
-    ScenarioHost host;
-    const ShapeID shape = host.Add("Rect");
-    host.Drag({100, 100}, {200, 200});
-    host.onEntry = [&](const std::string& entry) {
-        if (entry == "select rule") {
-            host.container.redrawShape(shape);
-        }
+TEST(Reentry, LetsTheLatestWordOfTheHostStand) {
+    struct Case {
+        const char* inside;
+        std::function<void(ScenarioHost&)> gesture;
+        Lines log;
     };
-    host.Drag({150, 150}, {160, 160});
-    host.onEntry = nullptr;
-    host.TakeLog();
-    host.Drag({10, 10}, {50, 50});
-    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture off", "state rule 2>3"}));
+    for (const Case& c : {
+             Case{"select rule",
+                  [](ScenarioHost& host) {
+                      host.Drag({150, 150}, {160, 160});
+                  },
+                  {"select rule", "capture off", "capture on", "redraw", "capture off", "state rule 2>3"}},
+             Case{"state rule 4>3",
+                  [](ScenarioHost& host) {
+                      host.Drag({150, 150}, {160, 160});
+                  },
+                  {"select rule", "capture on", "state rule 4>3", "capture off", "capture on"}},
+             Case{"capture off",
+                  [](ScenarioHost& host) { host.RightPress(150, 150); },
+                  {"capture off", "capture off", "capture on"}},
+         }) {
+        ScenarioHost host;
+        const ShapeID shape = host.Add("Rect", "", "EnableRBtnDelete");
+        host.Drag({100, 100}, {200, 200});
+        host.TakeLog();
+        bool done = false;
+        host.onEntry = [&](const std::string& entry) {
+            if (!done && entry == c.inside) {
+                done = true;
+                host.container.redrawShape(shape);
+                host.Press(150, 150);
+            }
+        };
+        c.gesture(host);
+        EXPECT_EQ(host.TakeLog(), c.log) << c.inside;
+        host.onEntry = nullptr;
+        host.Release(200, 200);
+        host.Drag({0, 0}, {1, 1});
+        EXPECT_NE(host.Config(shape), "") << c.inside << ": the new drawing was lost";
+    }
 }
 
 TEST(Reentry, AListenerThatIsGoneIsNotCalled) {
     ScenarioHost host;
-    const ShapeID first = host.Add("Rect");
-    const ShapeID second = host.Add("Rect");
+    host.container.addShape({TheView, "Rect", "label", "rule"});
+    const ShapeID first = host.container.selectedShape();
     host.Press(100, 100);
-    const ShapeID drawing = std::min(first, second);
-    host.container.sendMouse(MouseCode::leftDown, TheView, 100, 100); // busy: changes nothing
+    host.container.enableShape(first, false);
+    const ShapeID second = host.Add("Rect");
+    host.Press(110, 110);
+    host.TakeLog();
     host.onEntry = [&](const std::string& entry) {
-        if (entry == "redraw") {
-            host.container.deleteShape(drawing);
+        if (entry == "capture off") {
+            host.onEntry = nullptr;
+            host.container.deleteShape(second);
         }
     };
-    host.Move(200, 200);
-    host.onEntry = nullptr;
-    host.TakeLog();
     host.Release(200, 200);
-    EXPECT_EQ(host.TakeLog(), Lines{});
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture off", "capture off", "state rule 2>3"})) << "of the first alone";
 }
 
-TEST(Threads, APaintMayRunBesideEverything) {
+TEST(Reentry, ReleasingTheContainerWhileAShapeIsMadeMakesNone) {
     ScenarioHost host;
-    host.Add("Rect", R"({"rule":[[7000,7000],[8000,8000]]})");
-    const Lines still = host.Paint();
-    std::atomic<bool> painting{true};
+    host.onEntry = [&](const std::string& entry) {
+        if (entry == "select ") {
+            ReleaseVideoAnalyseContainer(host.container.handle());
+        }
+    };
+    EXPECT_EQ(host.Add("Rect"), 0U);
+}
+
+TEST(Threads, APaintAndOtherCallsMayRunBesideTheMouse) {
+    ScenarioHost host;
+    const ShapeID resident = host.Add("Rect", R"({"rule":[[7000,7000],[8000,8000]]})");
+    std::atomic<bool> running{true};
     std::atomic<size_t> drawn{0};
     std::thread painter([&] {
-        while (painting) {
+        while (running) {
             drawn += host.Paint().size();
+        }
+    });
+    std::thread caller([&] {
+        while (running) {
+            host.container.setCaption(resident, "a caption too long to be kept in place");
+            host.container.setColour(resident, Outline::selected, 1, 2, 3);
+            host.container.setTip(TheView, "tip");
+            host.container.selectShape(resident);
+            host.container.setDirection(resident, 1);
+            host.container.refitShapes();
+            host.container.configuration(resident);
         }
     });
     for (int round = 0; round < 20; ++round) {
         const ShapeID shape = host.Add("Rect");
         host.Drag({100, 100}, {200, 200});
-        host.container.setCaption(shape, "a caption that is too long to be kept in place");
-        host.container.setColour(shape, Outline::selected, round, 0, 0);
-        host.container.setTip(TheView, "tip");
         host.Press(150, 150);
         for (float x = 150; x < 180; x += 1) {
             host.Move(x, x);
@@ -143,10 +194,12 @@ TEST(Threads, APaintMayRunBesideEverything) {
         host.container.showShape(shape, round % 2 == 0);
         host.container.deleteShape(shape); // in the middle of the drag
     }
-    painting = false;
+    running = false;
     painter.join();
+    caller.join();
     EXPECT_GT(drawn, 0U);
-    EXPECT_EQ(host.Paint().size(), still.size() - 4) << "deselected by the presses, otherwise as it was";
+    host.container.setTip(TheView, "");
+    EXPECT_EQ(host.Paint().size(), 6U) << "the resident with its handles, alone";
 }
 
 } // namespace

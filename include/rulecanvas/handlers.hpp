@@ -36,8 +36,9 @@ class Handler {
 
     /* Ends the copy. */
     void reset() noexcept {
-        if (m_holder.handler != nullptr)
+        if (m_holder.handler != nullptr) {
             m_holder.handler->table->destroy(m_holder.handler, FREE_MEMORY);
+        }
         m_holder.handler = nullptr;
     }
     explicit operator bool() const noexcept { return m_holder.handler != nullptr; }
@@ -46,8 +47,9 @@ class Handler {
   protected:
     ContainerHandlerHolder* holder() noexcept { return &m_holder; }
     void invoke(uintptr_t first, uintptr_t second) const {
-        if (m_holder.handler != nullptr)
+        if (m_holder.handler != nullptr) {
             m_holder.handler->table->invoke(m_holder.handler, first, second);
+        }
     }
 
   private:

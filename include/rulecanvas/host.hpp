@@ -28,7 +28,7 @@ struct ShapeSettings {
 enum class Outline : uint32_t { unselected = 0, selected = 1 };
 
 /* One container, from its creation to its release. Movable: the addresses that the library knows do not move with it.
- * Make and end containers while no other thread calls the library, and never from inside a callback.
+ * Make and end containers while no other thread calls the library, and do not end one from inside a callback of its own.
  *
  * Callables given to on...() run on the thread of the call that caused them and may call any function here but the end
  * of the container. They must not throw (an exception that leaves one ends the program). They are kept until the
@@ -226,8 +226,9 @@ class Container {
     void release() noexcept {
         m_mouse.reset();
         m_draw.reset();
-        if (m_handle != 0)
+        if (m_handle != 0) {
             ReleaseVideoAnalyseContainer(m_handle);
+        }
     }
 
     ContainerHandle m_handle;

@@ -23,8 +23,8 @@
  *     that other threads had begun have returned. A handler that the host fetched belongs to the host, which ends it
  *     through the handler's own table.
  *  8. Threads. The library starts none. Creating and releasing containers and GetVideoAnalyseAllShapestates must not
- *     overlap a call of another thread. The mouse handler must not run while another thread creates or deletes shapes
- *     of the same container. The draw handler may run on a thread of its own beside all per-container calls.
+ *     overlap a call of another thread. The mouse handler must not run while another thread creates, deletes or redraws
+ *     shapes of the same container. The draw handler may run on a thread of its own beside all per-container calls.
  *     Callbacks arrive on the thread of the call that caused them; any function may be called from inside a callback,
  *     even one that ends the speaking shape or its container. A callback must not wait for another thread that is
  *     inside the library: client rectangles are asked, and the capture is given back, while the container is locked

@@ -42,8 +42,9 @@ class Text {
             text.m_bytes[0] = '\0';
             /* Some texts may fill the size that is told without a terminating zero. */
             text.m_bytes[size] = '\0';
-            if (copied(text.m_bytes, size))
+            if (copied(text.m_bytes, size)) {
                 return text;
+            }
         }
         return Text();
     }

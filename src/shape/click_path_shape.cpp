@@ -74,7 +74,7 @@ bool CClickPathShape::OfferFinish() {
 }
 
 void CClickPathShape::StartDrawing(const PointF& press) {
-    if (AcceptsPoint(press)) {
+    if (AcceptsPoint(press) && state == Waiting) {
         ReplacePoints({press});
         SetAnchorPoint(press);
         SetLastPoint(press);
@@ -152,7 +152,7 @@ bool CClickPathShape::OnButtonUp(const PointF& position, const ContainerMouseEve
         Capture(true); // a host may have let go of the mouse with the button
         return true;
     case Moving:
-        return EndMove(position) && FinishGesture();
+        return EndMove(position) && state == Moving && FinishGesture();
     case Adjusting:
         return !IsOutsideLimit(position) && FinishGesture();
     default:

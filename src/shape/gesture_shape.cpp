@@ -108,11 +108,17 @@ void CGestureShape::BeginConfiguration(const char* shapeName) {
 
 bool CGestureShape::BeginGesture(ShapeState gestureState) {
     Disturb();
-    state = gestureState;
+    const int stateBefore = state.exchange(gestureState);
     if (!Capture(true)) {
         return false;
     }
-    Subscribe();
+    try {
+        Subscribe();
+    } catch (...) { // without memory: a shape that hears nothing must not claim every press
+        state = stateBefore;
+        EndGesture();
+        throw;
+    }
     return true;
 }
 
@@ -126,7 +132,6 @@ bool CGestureShape::BecomeComplete() {
     if (!NotifyState(Complete)) {
         return false;
     }
-    Disturb();
     state = Complete;
     return true;
 }
@@ -160,9 +165,9 @@ void CGestureShape::Subscribe() {
     IShapeContainer* owner = GetContainer();
     platform::LockGuard guard(lock);
     if (owner != nullptr && !subscribed) {
+        subscribed = true;
         owner->RegisterWinMouseEvent(MouseListenerKind::ButtonUp, weak_from_this(), upListener);
         owner->RegisterWinMouseEvent(MouseListenerKind::MouseMoved, weak_from_this(), moveListener);
-        subscribed = true;
     }
 }
 

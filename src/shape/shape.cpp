@@ -191,6 +191,11 @@ Points CVideoAnalyseShape::CopyPoints() const {
     return points;
 }
 
+void CVideoAnalyseShape::AppendPointsTo(Points& out) const {
+    LockGuard guard(lock);
+    out.insert(out.end(), points.begin(), points.end());
+}
+
 size_t CVideoAnalyseShape::PointCount() const {
     LockGuard guard(lock);
     return points.size();

@@ -113,6 +113,7 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     bool ParseStyleConfig(const char* styleText);
     void ClearPoints();
     Points CopyPoints() const;
+    void AppendPointsTo(Points& out) const;
     size_t PointCount() const;
     void ReplacePoints(Points newPoints);
     void AppendPoint(const PointF& point);

@@ -43,35 +43,40 @@ std::string Written(const PointF& point) {
     return "(" + Number(point.x) + "," + Number(point.y) + ")";
 }
 
+void RecordingSurface::Write(const std::string& call) {
+    calls.push_back(call);
+    called();
+}
+
 void RecordingSurface::DrawLine(const PointF* from, const PointF* to, float width, const ColorF* colour,
                                 int32_t penStyle) {
-    calls.push_back("line " + Box(*from, *to) + Pen(width, *colour, penStyle));
+    Write("line " + Box(*from, *to) + Pen(width, *colour, penStyle));
 }
 
 void RecordingSurface::DrawText(const PointF* at, const TextStyle* style, const char* text, int32_t first,
                                 int32_t second) {
-    calls.push_back("text " + Written(*at) + " \"" + text + "\" size " + Number(style->size) + " " +
-                    Colour(style->colour) + (HasDefaultFace(*style) ? "" : std::string(" in ") + style->face) +
-                    (first == 0 && second == 1 ? "" : " wrong last arguments"));
+    Write("text " + Written(*at) + " \"" + text + "\" size " + Number(style->size) + " " + Colour(style->colour) +
+          (HasDefaultFace(*style) ? "" : std::string(" in ") + style->face) +
+          (first == 0 && second == 1 ? "" : " wrong last arguments"));
 }
 
 void RecordingSurface::DrawTextEx(const PointF* /*at*/, const TextStyle* /*style*/, const char* /*text*/) {
-    calls.emplace_back("DrawTextEx is never called");
+    Write("DrawTextEx is never called");
 }
 
 void RecordingSurface::FillEllipse(const PointF* corner1, const PointF* corner2, float width, ColorF fill,
                                    const ColorF* outline) {
-    calls.push_back("fill-ellipse " + Box(*corner1, *corner2) + Pen(width, fill, 0) +
-                    (Colour(fill) == Colour(*outline) ? "" : " outline " + Colour(*outline)));
+    Write("fill-ellipse " + Box(*corner1, *corner2) + Pen(width, fill, 0) +
+          (Colour(fill) == Colour(*outline) ? "" : " outline " + Colour(*outline)));
 }
 
 void RecordingSurface::DrawEllipse(const PointF* corner1, const PointF* corner2, float width, const ColorF* colour) {
-    calls.push_back("ellipse " + Box(*corner1, *corner2) + Pen(width, *colour, 0));
+    Write("ellipse " + Box(*corner1, *corner2) + Pen(width, *colour, 0));
 }
 
 void RecordingSurface::DrawRectangle(const PointF* topLeft, const PointF* bottomRight, float width,
                                      const ColorF* colour, int32_t penStyle) {
-    calls.push_back("rect " + Box(*topLeft, *bottomRight) + Pen(width, *colour, penStyle));
+    Write("rect " + Box(*topLeft, *bottomRight) + Pen(width, *colour, penStyle));
 }
 
 float RecordingSurface::MeasureText(TextStyle /*style*/, const char* text) {
@@ -91,23 +96,23 @@ void RecordingSurface::DrawTextAtPoints(const char* text, const PointF* points, 
     }
     out << " " << Colour(colour) << " clip " << clip.left << "," << clip.top << "," << clip.right << "," << clip.bottom
         << (format == 32 && last == 1 ? "" : " wrong last arguments");
-    calls.push_back(out.str());
+    Write(out.str());
 }
 
 void RecordingSurface::BeginLayer() {
-    calls.emplace_back("layer");
+    Write("layer");
 }
 
 void RecordingSurface::EndLayer(int32_t x, int32_t y) {
-    calls.push_back("layer-end (" + std::to_string(x) + "," + std::to_string(y) + ")");
+    Write("layer-end (" + std::to_string(x) + "," + std::to_string(y) + ")");
 }
 
 void RecordingSurface::SetLayerSize(int32_t width, int32_t height) {
-    calls.push_back("layer-size " + std::to_string(width) + "x" + std::to_string(height));
+    Write("layer-size " + std::to_string(width) + "x" + std::to_string(height));
 }
 
 void RecordingSurface::FillRectangle(const PointF* topLeft, const PointF* bottomRight, const ColorF* colour) {
-    calls.push_back("fill " + Box(*topLeft, *bottomRight) + " " + Colour(*colour));
+    Write("fill " + Box(*topLeft, *bottomRight) + " " + Colour(*colour));
 }
 
 } // namespace rulecanvas::test

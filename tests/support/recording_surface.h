@@ -2,6 +2,7 @@
 
 #include "rulecanvas/rulecanvas.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -25,6 +26,9 @@ std::string Written(const PointF& point);
 /// pixels wide and 12 high.
 class RecordingSurface final : public IContainerGraphics {
   public:
+    /// `onCall` runs inside every call.
+    explicit RecordingSurface(std::function<void()> onCall = [] {}) : called(std::move(onCall)) {}
+
     Lines calls;
 
     void DrawLine(const PointF* from, const PointF* to, float width, const ColorF* colour, int32_t penStyle) override;
@@ -43,6 +47,11 @@ class RecordingSurface final : public IContainerGraphics {
     void EndLayer(int32_t x, int32_t y) override;
     void SetLayerSize(int32_t width, int32_t height) override;
     void FillRectangle(const PointF* topLeft, const PointF* bottomRight, const ColorF* colour) override;
+
+  private:
+    void Write(const std::string& call);
+
+    std::function<void()> called;
 };
 
 } // namespace rulecanvas::test

@@ -42,7 +42,10 @@ ScenarioHost::ScenarioHost(int width, int height)
         lastEventText = text;
         Write(Shortened(lastEventText));
     });
-    container.onClientRect([this](ViewID) { return clientRect; });
+    container.onClientRect([this](ViewID view) {
+        Tell("client rect");
+        return view == 0 ? rectOfViewZero.value_or(clientRect) : clientRect;
+    });
     container.onCapture([this](bool take) {
         Write(take ? "capture on" : "capture off");
         return true;
@@ -52,6 +55,10 @@ ScenarioHost::ScenarioHost(int width, int height)
 
 void ScenarioHost::Write(const std::string& entry) {
     log.push_back(entry);
+    Tell(entry);
+}
+
+void ScenarioHost::Tell(const std::string& entry) {
     if (onEntry) {
         onEntry(entry);
     }
@@ -92,7 +99,7 @@ void ScenarioHost::Send(uint32_t code, float x, float y, ViewID view) {
 }
 
 Lines ScenarioHost::Paint(ViewID view) {
-    RecordingSurface surface;
+    RecordingSurface surface([this] { Tell("drawing"); });
     container.paint(view, surface);
     return surface.calls;
 }

@@ -4,6 +4,7 @@
 #include "support/recording_surface.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace rulecanvas::test {
@@ -19,7 +20,7 @@ constexpr ViewID TheView = 7;
 ///     redraw, hint 4         the host object is called
 ///
 /// A notification that is not exactly of the documented form is written down as it came. `onEntry` runs inside each of
-/// these callbacks and may call back.
+/// these callbacks and may call back; also, unwritten, for "client rect" and for "drawing".
 class ScenarioHost {
   public:
     explicit ScenarioHost(int width = 800, int height = 600);
@@ -46,11 +47,14 @@ class ScenarioHost {
     void Resize(int width, int height) { clientRect = ClientRect{0, 0, width, height}; }
 
     ClientRect clientRect;
+    /// What view 0 answers instead.
+    std::optional<ClientRect> rectOfViewZero;
     std::function<void(const std::string&)> onEntry;
     std::string lastEventText;
 
   private:
     void Write(const std::string& entry);
+    void Tell(const std::string& entry);
 
     Lines log;
     HostObject hostObject;

@@ -65,6 +65,10 @@ void CRectangleShape::HandleRButtonEvent(const ContainerMouseEvent& /*event*/, i
     DeleteByRightButton(hitLevel);
 }
 
+void CRectangleShape::GetShapePoints(Points& out) const {
+    AppendPointsTo(out);
+}
+
 void CRectangleShape::StartDrawing(const PointF& press) {
     if (AcceptsPoint(press)) {
         SetAnchorPoint(press);

@@ -15,6 +15,8 @@ class CRectangleShape : public CGestureShape {
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
+    /// Appends the corners.
+    void GetShapePoints(Points& out) const override;
     bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
     /// The corners between the anchor and `current`; false when they lie too close together.
