@@ -1,0 +1,62 @@
+// The smallest complete host: one view, one rectangle that the "user" drags out, a surface that prints what it is told.
+#include <rulecanvas/host.hpp>
+
+#include <cstdio>
+
+using rulecanvas::ClientRect;
+using rulecanvas::ColorF;
+using rulecanvas::MouseCode;
+using rulecanvas::PointF;
+
+namespace {
+
+class PrintingSurface final : public rulecanvas::Surface {
+  public:
+    void strokeRectangle(const PointF& topLeft, const PointF& bottomRight, float width, const ColorF&,
+                         int32_t) override {
+        std::printf("rectangle (%g, %g) to (%g, %g), width %g\n", static_cast<double>(topLeft.x),
+                    static_cast<double>(topLeft.y), static_cast<double>(bottomRight.x),
+                    static_cast<double>(bottomRight.y), static_cast<double>(width));
+    }
+};
+
+} // namespace
+
+int main() {
+    constexpr rulecanvas::ViewID VIEW = 0;
+
+    // The host object and everything that the callbacks use outlive the container.
+    rulecanvas::HostObject host([] { std::puts("repaint, please"); });
+    rulecanvas::Container container(&host);
+    if (!container) {
+        return 1;
+    }
+
+    container.onClientRect([](rulecanvas::ViewID) { return ClientRect{0, 0, 640, 480}; });
+    container.onCapture([](bool take) { std::puts(take ? "take the mouse" : "let the mouse go"); });
+    container.onNotify([](const char* text) { std::printf("event %s", text); });
+    container.enable();
+
+    rulecanvas::ShapeSettings settings;
+    settings.view = VIEW;
+    settings.type = "Rect";
+    settings.label = "intrusion";
+    settings.name = "gate";
+    const rulecanvas::ShapeID shape = container.addShape(settings);
+    if (shape == 0) {
+        return 1;
+    }
+
+    // A window procedure forwards these as they come.
+    container.sendMouse(MouseCode::leftDown, VIEW, 100, 80);
+    container.sendMouse(MouseCode::moved, VIEW, 300, 200);
+    container.sendMouse(MouseCode::leftUp, VIEW, 300, 200);
+
+    // Last in the paint of the view, on top of the picture.
+    PrintingSurface surface;
+    container.paint(VIEW, surface);
+
+    // What a host stores; addShape takes it back as `configuration`.
+    std::printf("geometry %s", container.configuration(shape).c_str());
+    return 0;
+}

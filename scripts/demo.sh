@@ -1,0 +1,152 @@
+#!/usr/bin/env bash
+# Builds rulecanvas.dll and the sample host and shows them: in a window when there is a display, else on a virtual one,
+# where scripts draw with the mouse and write pictures.
+#
+# usage: scripts/demo.sh [--headless] [--sample-video | VIDEO]
+#   --headless       play the scripts also when there is a display
+#   --sample-video   on a street surveillance clip of the distribution, which is fetched once
+#   VIDEO            on your own clip or picture; anything that ffmpeg reads
+# Without a video the sample host shows a street of its own.
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+programs=$root/build/windows-x86
+work=$root/build/demo
+scripts=$root/examples/rule_editor/scripts
+# A clip is used uncompressed, about 0.7 MB a frame: a stretch of it is enough.
+clip_seconds=20
+
+video=
+sample_video=false
+headless=false
+server=
+
+say() { printf 'demo: %s\n' "$*"; }
+
+die() {
+    printf 'demo: %s\n' "$*" >&2
+    exit 1
+}
+
+usage() { sed -n '2,/^set /{/^set /d;s/^# \{0,1\}//;p}' "${BASH_SOURCE[0]}"; }
+
+read_arguments() {
+    while (($# > 0)); do
+        case $1 in
+            --headless) headless=true ;;
+            --sample-video) sample_video=true ;;
+            -h | --help)
+                usage
+                exit 0
+                ;;
+            -*) die "unknown option '$1'; see --help" ;;
+            *) video=$1 ;;
+        esac
+        shift
+    done
+    [[ -z $video || -r $video ]] || die "cannot read '$video'"
+    [[ -n ${DISPLAY:-} ]] || headless=true
+}
+
+build() {
+    say "[1/3] preparing the machine (at once when everything is installed)"
+    "$root/scripts/setup.sh" build test demo
+    say "[2/3] building; the first time takes a few minutes"
+    (cd "$root" && cmake --preset windows-x86 >"$work/configure.log") || die "configuring failed: $work/configure.log"
+    (cd "$root" && NINJA_STATUS='demo:       [%f/%t] ' cmake --build --preset windows-x86 --target rule_editor)
+}
+
+# Takes the clip out of the distribution's package and leaves its path in `video`.
+fetch_sample_video() {
+    video=$work/vtest.avi
+    [[ -s $video ]] && return 0
+    say "      fetching the clip (package opencv-doc, about 100 MB)"
+    local folder
+    folder=$(mktemp -d "$work/fetch.XXXXXX")
+    (cd "$folder" && apt-get -o APT::Sandbox::User=root download opencv-doc) || die "the package opencv-doc cannot be fetched"
+    dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi' >"$video.part" ||
+        {
+            # In some releases the file is compressed inside the package.
+            dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi.gz' | gunzip >"$video.part"
+        }
+    mv "$video.part" "$video"
+    rm -rf "$folder"
+}
+
+# Turns anything but what the sample host reads itself into YUV4MPEG2.
+convert_video() {
+    case $video in
+        *.y4m | *.png | *.jpg | *.jpeg) return 0 ;;
+    esac
+    local converted
+    converted=$work/$(basename "${video%.*}").y4m
+    if [[ ! $converted -nt $video ]]; then
+        say "      decoding $clip_seconds seconds of $video"
+        ffmpeg -nostdin -v error -stats -y -i "$video" -t "$clip_seconds" -pix_fmt yuv420p "$converted" ||
+            die "ffmpeg cannot read $video"
+    fi
+    video=$converted
+}
+
+start_virtual_display() {
+    local number=$work/display
+    : >"$number"
+    Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$number" 2>"$work/xvfb.log" &
+    server=$!
+    trap stop_virtual_display EXIT
+    for _ in $(seq 100); do
+        [[ -s $number ]] && break
+        sleep 0.1
+    done
+    [[ -s $number ]] || die "Xvfb does not start: $work/xvfb.log"
+    DISPLAY=:$(<"$number")
+    export DISPLAY
+}
+
+# Wine's own processes use the display a little longer than the program does and would complain.
+stop_virtual_display() {
+    WINEPREFIX=$root/build/wine-prefix timeout 10 wineserver --wait || true
+    kill "$server" 2>/dev/null || true
+}
+
+windows_path() { printf 'Z:%s' "$(realpath "$1")"; }
+
+rule_editor() {
+    local arguments=("$@")
+    [[ -z $video ]] || arguments+=("$(windows_path "$video")")
+    "$root/scripts/run-wine.sh" "$programs/rule_editor.exe" "${arguments[@]}"
+}
+
+play_scripts() {
+    local list=("$scripts"/*.rules) script name done=0 failed=0
+    [[ -z $video ]] || list=("$scripts"/on_video/*.rules)
+    for script in "${list[@]}"; do
+        name=$(basename "$script" .rules)
+        done=$((done + 1))
+        say "      [$done/${#list[@]}] $name"
+        mkdir -p "$work/$name"
+        rule_editor --script "$(windows_path "$script")" --snapshot "$(windows_path "$work/$name")" || {
+            failed=$((failed + 1))
+            say "      $name failed; the window as it was: $work/$name/failure.png"
+        }
+    done
+    say "pictures and logs of ${#list[@]} scripts are in:"
+    for script in "${list[@]}"; do
+        say "  $work/$(basename "$script" .rules)"
+    done
+    ((failed == 0)) || die "$failed of ${#list[@]} scripts failed"
+}
+
+read_arguments "$@"
+mkdir -p "$work"
+build
+if $sample_video; then fetch_sample_video; fi
+[[ -z $video ]] || convert_video
+if $headless; then
+    say "[3/3] drawing on a virtual display"
+    start_virtual_display
+    play_scripts
+else
+    say "[3/3] the window opens now; close it to end"
+    rule_editor
+fi
