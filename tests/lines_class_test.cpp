@@ -57,14 +57,15 @@ TEST(LineClass, CopiesItsKindAndNamesButNoPoints) {
 
 TEST(LineClass, WithoutAnEventNameIsDrawnInsideItsLimitAreaOnly) {
     Owned<CXLineShape> area;
-    area.line->SetVideoAnalyseShapeData("u", R"({"u":[[0,0],[90,0],[90,90],[60,90],[60,30],[30,30],[30,90],[0,90]]})",
+    area.line->SetVideoAnalyseShapeData("u", R"({"u":[[30,90],[0,90],[0,0],[90,0],[90,90],[60,90],[60,30],[30,30]]})",
                                         nullptr);
     Owned<CLineShape> limited(LineOrientation::Free);
     EXPECT_FALSE(limited.line->SetLimitArea(nullptr));
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {80, 10}), Waiting) << "no area, nothing inside";
     EXPECT_TRUE(limited.line->SetLimitArea(area.line.get()));
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {45, 60}), Waiting) << "ends outside";
-    EXPECT_EQ(limited.StateAfterStroke({10, 80}, {80, 80}), Waiting) << "leaves the area on its way";
+    EXPECT_EQ(limited.StateAfterStroke({45, 80}, {80, 80}), Waiting) << "comes in over an edge";
+    EXPECT_EQ(limited.StateAfterStroke({45, 80}, {10, 80}), Waiting) << "and over the closing one";
     EXPECT_EQ(limited.PointsNow(), Points{});
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {80, 10}), Complete);
 }
@@ -99,7 +100,10 @@ TEST(LineClass, AsksItsOwnerBeforeItChanges) {
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Waiting) << "refused: to be drawn again";
     owner.content = true;
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Complete);
+    Points dragged;
+    EXPECT_TRUE(arrow.line->DragPointsHook(0, {20, 20}, dragged));
     owner.content = false;
+    EXPECT_FALSE(arrow.line->DragPointsHook(0, {20, 20}, dragged));
     EXPECT_FALSE(arrow.line->MoveHook(1, 1));
 }
 

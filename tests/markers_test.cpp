@@ -180,7 +180,11 @@ TEST(Spot, IsPlacedByAClickAndDragged) {
     EXPECT_EQ(host.container.selectedShape(), 0U) << "beside it";
     host.container.setTip(TheView, "tip");
     host.Click(300, 300);
-    EXPECT_EQ(host.Paint().size(), 2U) << "an unselected spot answers too: the tip is gone";
+    EXPECT_EQ(host.Paint()[0], "ellipse (107,115)-(117,125) w2 blue") << "an unselected spot answers: no tip is left";
+    host.container.selectShape(host.Add("Rect"), false);
+    host.Press(112, 120);
+    EXPECT_EQ(host.TakeLog(), Lines{"capture on"}) << "the rectangle takes the press";
+    EXPECT_EQ(host.container.selectedShape(), shape) << "but the spot that was hit is selected";
 }
 
 TEST(Spot, IsAnOutlineOrSolidOfItsRadius) {

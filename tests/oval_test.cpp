@@ -16,6 +16,7 @@ TEST(Oval, IsDrawnByDraggingAndKeepsTheCapture) {
     const ShapeID shape = host.Add("OvalShape");
     EXPECT_EQ(host.Paint(), Lines{"ellipse (0,0)-(0,0) w2 yellow"}) << "a waiting oval draws its empty rubber band";
     host.Press(200.5F, 150);
+    EXPECT_EQ(host.Paint(), Lines{"ellipse (200.5,150)-(200.5,150) w2 yellow"});
     EXPECT_TRUE(host.container.redrawShape(shape)) << "an oval is not restarted: the drag goes on";
     host.Move(90, 900);
     EXPECT_EQ(host.Paint(), Lines{"ellipse (200.5,150)-(90,900) w2 yellow"}) << "the rubber band is not clamped";

@@ -42,14 +42,19 @@ TEST_F(PixelCount, IsNeverSmallerThanItCanBeSeen) {
 }
 
 TEST_F(PixelCount, WaitsUntilVideoAndViewAreKnownAndKeepsTheSizeOfTheVideo) {
-    host.container.setVideoSize(640, 0);
-    host.Resize(0, 0);
-    Add(R"({"rule":[320,240]})");
-    EXPECT_EQ(host.Paint(), Lines{});
-    host.container.setVideoSize(640, 480);
-    EXPECT_EQ(host.Paint(), Lines{});
-    host.Resize(800, 600);
-    EXPECT_EQ(host.Paint()[0], "text (385,298) \"320*240\" size 0 yellow");
+    for (const bool videoFirst : {true, false}) {
+        host.container.deleteAllShapes();
+        host.container.setVideoSize(640, 0);
+        host.Resize(0, 0);
+        Add(R"({"rule":[320,240]})");
+        EXPECT_EQ(host.Paint(), Lines{});
+        host.container.setVideoSize(640, videoFirst ? 480 : 0);
+        host.Resize(videoFirst ? 0 : 800, 600);
+        EXPECT_EQ(host.Paint(), Lines{});
+        host.container.setVideoSize(640, 480);
+        host.Resize(800, 600);
+        EXPECT_EQ(host.Paint()[0], "text (385,298) \"320*240\" size 0 yellow");
+    }
     host.container.setVideoSize(64, 48);
     host.Press(600, 450);
     host.Move(400, 300);
@@ -78,13 +83,18 @@ TEST_F(PixelCount, RefusesWhatIsNoSizeAndReadsNoModeWord) {
     for (const char* config : {R"({"rule":[320]})", "{", R"({"rule":[320,"a"]})"}) {
         EXPECT_EQ(host.Add("PixelCountShape", config), 0U) << config;
     }
-    Add(R"({"rule":[320,240]})", "TextOnly");
-    EXPECT_EQ(host.Paint().size(), 2U);
-    host.container.redrawShape(Add(R"({"rule":[320,240]})", "EnableRBtnDelete"));
-    host.TakeLog();
-    host.RightPress(400, 300);
+    for (const char* word : {"TextOnly", "EnableRBtnDelete"}) {
+        Add(R"({"rule":[320,240]})", word);
+        host.Paint();
+        host.RightPress(400, 300);
+    }
     EXPECT_EQ(host.TakeLog(), Lines{});
-    EXPECT_EQ(host.Paint().size(), 2U) << "a size that was not placed yet is forgotten";
+    EXPECT_EQ(host.Paint().size(), 4U);
+}
+
+TEST_F(PixelCount, ForgetsASizeThatWasNotPlacedWhenItIsDrawnAnew) {
+    host.container.redrawShape(Add(R"({"rule":[320,240]})"));
+    EXPECT_EQ(host.Paint(), Lines{});
 }
 
 } // namespace

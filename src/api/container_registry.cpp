@@ -3,8 +3,9 @@
 namespace rulecanvas {
 
 ContainerRegistry::~ContainerRegistry() {
-    while (!containers.empty()) {
-        Erase(containers.begin()->first);
+    for (const auto& [handle, container] : containers) {
+        container->ForgetHost(); // which may be gone, or in the middle of unloading
+        container->Close();
     }
 }
 

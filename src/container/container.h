@@ -31,7 +31,10 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     CVideoAnalyseContainer& operator=(const CVideoAnalyseContainer&) = delete;
 
     ContainerHandle GetHandle() const { return handle; }
+    /// Ends the shapes, then forgets the host.
     void Close();
+    /// No call reaches the host from now on.
+    void ForgetHost();
 
     void SetNotifyDelegate(const CDelegate& delegate) { notifyDelegate.Set(delegate); }
     void SetAdjustPointDelegate(const CDelegate& delegate) { adjustPointDelegate.Set(delegate); }

@@ -70,12 +70,17 @@ void CVideoAnalyseContainer::Close() {
     closed = true;
     liveContainers->Remove(this);
     DeleteAllShapes();
-    for (const auto& clear :
-         {&CVideoAnalyseContainer::SetNotifyDelegate, &CVideoAnalyseContainer::SetAdjustPointDelegate,
-          &CVideoAnalyseContainer::SetClientRectDelegate, &CVideoAnalyseContainer::SetCaptureDelegate,
-          &CVideoAnalyseContainer::SetTranslateDelegate}) {
-        (this->*clear)(CDelegate{});
-    }
+    ForgetHost();
+}
+
+void CVideoAnalyseContainer::ForgetHost() {
+    closed = true;
+    const CDelegate none{nullptr, nullptr};
+    notifyDelegate.Set(none);
+    adjustPointDelegate.Set(none);
+    clientRectDelegate.Set(none);
+    captureDelegate.Set(none);
+    translateDelegate.Set(none);
 }
 
 uintptr_t RULECANVAS_THISCALL CVideoAnalyseContainer::MouseOperation(void* container, uintptr_t /*ignored*/,

@@ -98,7 +98,7 @@ PointF CLineShape::Oriented(PointF point, const PointF& other) const {
 }
 
 void CLineShape::StartDrawing(const PointF& press) {
-    if (AcceptsPoint(press) && IsAcceptable({press}, false)) {
+    if (AcceptsPoint(press) && IsAcceptable({press}, false) && state == Waiting) {
         ReplacePoints({press});
         SetLastPoint(press);
         BeginGesture(Drawing);
@@ -154,48 +154,44 @@ bool CLineShape::OnButtonUp(const PointF& position, const ContainerMouseEvent& /
 }
 
 void CLineShape::PlacePoint(const PointF& position) {
+    bool beyondLimit = false;
+    const bool taken = EditPoints([&](Points& path) {
+        if (path.empty()) {
+            return false;
+        }
+        const PointF release = Released(position, path.front());
+        beyondLimit = !eventNameSet && !LimitAllows(path.front(), release);
+        return !beyondLimit && OfferPoint(release, path);
+    });
     const Points path = CopyPoints();
-    if (path.empty()) {
-        return;
+    const bool complete = path.size() >= MaximumPoints();
+    if (beyondLimit || (taken && !IsAcceptable(path, complete))) {
+        RestartDrawing();
+    } else if (taken && complete) {
+        FinishGesture();
     }
-    const PointF& first = path.front();
+}
+
+PointF CLineShape::Released(const PointF& position, const PointF& first) const {
     PointF release = ClampToView(first, position);
     if (horizon || movedHLine) {
         release.y = first.y;
     }
-    if (eventNameSet || LimitAllows(first, release)) {
-        OfferPoint(release);
-    } else {
-        RestartDrawing();
-    }
+    return release;
 }
 
 bool CLineShape::LimitAllows(const PointF& first, const PointF& point) const {
     return InPolygon(limitArea, point) && !CrossesPath(first, point, limitArea);
 }
 
-void CLineShape::OfferPoint(const PointF& point) {
-    const bool taken = EditPoints([&](Points& path) {
-        if (path.empty()) {
-            return false;
-        }
-        const PointF next = path.size() == 1 ? Oriented(point, path.front()) : point;
-        if (!AcceptsPoint(next) || CloserThan(MinPointSpacing, path.back(), next)) {
-            return false;
-        }
-        path.push_back(next);
-        return true;
-    });
-    if (!taken) {
-        return;
+/// Appends the point unless it may not be there or is too near to the last one.
+bool CLineShape::OfferPoint(const PointF& point, Points& path) const {
+    const PointF next = path.size() == 1 ? Oriented(point, path.front()) : point;
+    if (!AcceptsPoint(next) || CloserThan(MinPointSpacing, path.back(), next)) {
+        return false;
     }
-    const Points path = CopyPoints();
-    const bool complete = path.size() >= MaximumPoints();
-    if (!IsAcceptable(path, complete)) {
-        RestartDrawing();
-    } else if (complete) {
-        FinishGesture();
-    }
+    path.push_back(next);
+    return true;
 }
 
 void CLineShape::MoveTo(const PointF& position) {

@@ -53,8 +53,10 @@ class CLineShape : public CGestureShape {
   private:
     PointF Oriented(PointF point, const PointF& other) const;
     void PlacePoint(const PointF& position);
-    void OfferPoint(const PointF& point);
+    /// Where a release offers a point: in the view, and level for a horizontal line.
+    PointF Released(const PointF& position, const PointF& first) const;
     bool LimitAllows(const PointF& first, const PointF& point) const;
+    bool OfferPoint(const PointF& point, Points& path) const;
     void MoveTo(const PointF& position);
     bool AdjustEndpoint(const PointF& position);
     void FinishEditing(const PointF& release);
