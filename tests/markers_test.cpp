@@ -143,7 +143,7 @@ TEST(Markers, CopyTheirConfigurationIntoABufferOfItsLength) {
 TEST(Markers, AndOvalsLeaveNoListenerWhenTheyAreDeletedInAGesture) {
     using Deletion = std::pair<const char*, Lines>;
     for (const auto& [type, log] :
-         {Deletion{"OvalShape", {}}, Deletion{"CrossShape", {"capture off"}},
+         {Deletion{"OvalShape", {"capture off"}}, Deletion{"CrossShape", {"capture off"}},
           Deletion{"BigCrossShape", {"capture off"}}, Deletion{"SpotShape", {"capture off", "capture off"}}}) {
         ScenarioHost host;
         const ShapeID shape = host.Add(type);

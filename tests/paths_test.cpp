@@ -94,19 +94,14 @@ TEST(Paths, AreDrawnByClicks) {
 }
 
 TEST(Polygon, ThatItsClosingEdgeWouldCrossIsThrownAwayByTheRightButton) {
-    ScenarioHost host;
-    host.Add("Polygon");
-    Act(host, "click 100 100 click 200 100 click 200 200");
-    host.onEntry = [&](const std::string& entry) {
-        if (entry == "state rule 2>3") {
-            host.onEntry = nullptr;
-            host.Press(300, 150); // from inside the notification: the drawing goes on
-        }
-    };
-    host.RightPress(0, 0);
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("Polygon");
+    Act(host, "click 50 50 click 100 50 click 100 0 click 0 0 click 0 100 click 120 100 click 120 40");
     host.TakeLog();
-    Act(host, "right 0 0 press 10 10");
-    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>1", "capture off", "capture on"}));
+    Act(host, "right 0 0 move 200 200 release 200 200");
+    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>1", "capture off"})) << "and listens no more";
+    Act(host, "click 10 10 click 60 10 click 60 60 right 0 0");
+    EXPECT_EQ(host.Config(shape), Rule("10,10 60,10 60,60"));
 }
 
 TEST(Paths, AreReshapedMovedDeletedAndGivenVertices) {

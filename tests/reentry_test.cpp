@@ -48,6 +48,7 @@ const Action Actions[] = {
 /// Draws, moves, resizes and deletes one shape; every kind of callback comes.
 void EditFromBeginningToEnd(ScenarioHost& host) {
     host.Drag({100, 100}, {200, 200});
+    host.Drag({100, 100}, {90, 90});
     host.Drag({150, 150}, {160, 160});
     host.Drag({210, 210}, {260, 260});
     host.Paint();
@@ -70,29 +71,40 @@ size_t ActInside(ScenarioHost& host, ShapeID shape, const Action& action, size_t
     return seen;
 }
 
-TEST(Reentry, LeavesNothingHalfMadeInAnyCallbackOfAGesture) {
+/// What is written down when a shape is drawn anew by one drag.
+Lines DrawnAnew(ScenarioHost& host, ShapeID shape) {
+    host.container.redrawShape(shape);
+    host.TakeLog();
+    host.Drag({300, 300}, {400, 400});
+    return host.TakeLog();
+}
+
+class Reentry : public testing::TestWithParam<const char*> {};
+
+TEST_P(Reentry, LeavesNothingHalfMadeInAnyCallbackOfAGesture) {
+    ScenarioHost undisturbed;
+    const Lines expected = DrawnAnew(undisturbed, undisturbed.Add(GetParam(), "", "EnableRBtnDelete"));
     for (const Action& action : Actions) {
         size_t callbacks = 1;
         for (size_t at = 0; at < callbacks; ++at) {
             SCOPED_TRACE(action.name + std::string(" at callback ") + std::to_string(at));
             ScenarioHost host;
-            const ShapeID shape = host.Add("Rect", "", "EnableRBtnDelete");
+            const ShapeID shape = host.Add(GetParam(), "", "EnableRBtnDelete");
             callbacks = ActInside(host, shape, action, at);
-            host.container.redrawShape(shape);
-            host.TakeLog();
-            host.Drag({300, 300}, {400, 400});
+            EXPECT_EQ(DrawnAnew(host, shape), action.endsTheShape ? Lines{} : expected);
             if (action.endsTheShape) {
-                EXPECT_EQ(host.TakeLog(), Lines{}) << "a listener stayed behind";
                 EXPECT_EQ(host.Paint(), Lines{});
-            } else {
-                EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture off", "state rule 2>3"}));
             }
         }
-        EXPECT_GT(callbacks, action.endsTheShape ? 0U : 20U) << "there was nothing to act in";
+        EXPECT_GT(callbacks, action.endsTheShape ? 0U : 10U) << "there was nothing to act in";
     }
 }
 
-TEST(Reentry, LetsTheLatestWordOfTheHostStand) {
+INSTANTIATE_TEST_SUITE_P(Shapes, Reentry,
+                         testing::Values("Rect", "ArrowLineShape", "Polygon", "CrossShape", "SpotShape"),
+                         [](const auto& tested) { return std::string(tested.param); });
+
+TEST(Callbacks, LetsTheLatestWordOfTheHostStand) {
     struct Case {
         const char* inside;
         std::function<void(ScenarioHost&)> gesture;
@@ -134,7 +146,7 @@ TEST(Reentry, LetsTheLatestWordOfTheHostStand) {
     }
 }
 
-TEST(Reentry, AListenerThatIsGoneIsNotCalled) {
+TEST(Callbacks, AListenerThatIsGoneIsNotCalled) {
     ScenarioHost host;
     host.container.addShape({TheView, "Rect", "label", "rule"});
     const ShapeID first = host.container.selectedShape();
@@ -153,7 +165,7 @@ TEST(Reentry, AListenerThatIsGoneIsNotCalled) {
     EXPECT_EQ(host.TakeLog(), (Lines{"capture off", "capture off", "state rule 2>3"})) << "of the first alone";
 }
 
-TEST(Reentry, ReleasingTheContainerWhileAShapeIsMadeMakesNone) {
+TEST(Callbacks, ReleasingTheContainerWhileAShapeIsMadeMakesNone) {
     ScenarioHost host;
     host.onEntry = [&](const std::string& entry) {
         if (entry == "select ") {

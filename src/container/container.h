@@ -94,7 +94,15 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     ShapePtr FindParent(ShapeID id) const;
     MouseListenerList& ListenersOf(MouseListenerKind kind);
 
-    ShapePtr FindHitShape(const ContainerMouseEvent& event, HitTest hitTest);
+    /// The shape that an event goes to.
+    struct Hit {
+        ShapePtr shape;
+        int level = Miss;
+
+        bool Exists() const { return shape != nullptr && !shape->IsRetired(); }
+    };
+
+    Hit FindHitShape(const ContainerMouseEvent& event, HitTest hitTest);
     void DispatchLeftDown(const ContainerMouseEvent& event);
     void DispatchRightDown(const ContainerMouseEvent& event, HitTest hitTest);
     void DispatchMove(const ContainerMouseEvent& event);

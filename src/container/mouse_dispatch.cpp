@@ -47,15 +47,17 @@ void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
 }
 
 void CVideoAnalyseContainer::DispatchLeftDown(const ContainerMouseEvent& event) {
-    if (const ShapePtr winner = FindHitShape(event, &CVideoAnalyseShape::HitTestLButtonDown)) {
+    const Hit hit = FindHitShape(event, &CVideoAnalyseShape::HitTestLButtonDown);
+    if (hit.Exists()) {
         SetTip(event.viewId, "");
-        winner->HandleLButtonDownEvent(event, hitLevel);
+        hit.shape->HandleLButtonDownEvent(event, hit.level);
     }
 }
 
 void CVideoAnalyseContainer::DispatchRightDown(const ContainerMouseEvent& event, HitTest hitTest) {
-    if (const ShapePtr winner = FindHitShape(event, hitTest)) {
-        winner->HandleRButtonEvent(event, hitLevel);
+    const Hit hit = FindHitShape(event, hitTest);
+    if (hit.Exists()) {
+        hit.shape->HandleRButtonEvent(event, hit.level);
     }
 }
 
@@ -83,9 +85,9 @@ void CVideoAnalyseContainer::DispatchKey(const ContainerMouseEvent& event) {
 
 /// The shape with the strongest claim, the first one of equals. A press also deselects, on its way, every selected
 /// shape that it passes by.
-ShapePtr CVideoAnalyseContainer::FindHitShape(const ContainerMouseEvent& event, HitTest hitTest) {
+CVideoAnalyseContainer::Hit CVideoAnalyseContainer::FindHitShape(const ContainerMouseEvent& event, HitTest hitTest) {
     const bool leftPress = event.code == RULECANVAS_MOUSE_LEFT_DOWN;
-    ShapePtr winner;
+    Hit best;
     hitLevel = Miss;
     for (const ShapePtr& shape : shapes.InOrder()) {
         if (!shape->IsEnabled() || shape->GetViewId() != event.viewId || shape->IsRetired()) {
@@ -102,12 +104,12 @@ ShapePtr CVideoAnalyseContainer::FindHitShape(const ContainerMouseEvent& event, 
                 answering->SetAdjustBoxShow(false);
             }
         }
-        if (hitLevel < level) {
-            winner = answering;
-            hitLevel = level;
+        if (best.level < level) {
+            best = Hit{answering, level};
         }
     }
-    return winner == nullptr || winner->IsRetired() ? nullptr : winner;
+    hitLevel = best.level; // not before: a hit test may call the host, which may send another press
+    return best;
 }
 
 void CVideoAnalyseContainer::RequestRedraw() {

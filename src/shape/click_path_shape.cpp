@@ -7,12 +7,15 @@
 #include "shape/segments.h"
 #include "shape/text.h"
 
+#include <algorithm>
+
 namespace rulecanvas {
 namespace {
 
 constexpr int MostPoints = 20;
 constexpr int FewestPoints = 3;
 constexpr int MinimumSpacing = 4;
+constexpr PointF NoPoint{-1.0F, -1.0F};
 
 bool PutPoint(Points& path, int index, const PointF& position) {
     if (index < 0 || index >= static_cast<int>(path.size())) {
@@ -27,6 +30,7 @@ bool PutPoint(Points& path, int index, const PointF& position) {
 CClickPathShape::CClickPathShape() {
     maxPtNum = MostPoints;
     minPtNum = FewestPoints;
+    lastPoint = NoPoint;
     PointAcceptanceHook = decltype(PointAcceptanceHook)::Bind<&CClickPathShape::AcceptsNext>(this);
     VertexMoveHook = decltype(VertexMoveHook)::Bind<&CClickPathShape::AcceptsVertexMove>(this);
 }
@@ -43,7 +47,7 @@ CVideoAnalyseShape* CClickPathShape::HitTestLButtonDown(const ContainerMouseEven
 CVideoAnalyseShape* CClickPathShape::HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
     const PointF press = PositionOf(event);
     if (state == Drawing) {
-        if (static_cast<int>(PointCount()) >= minPtNum && OfferFinish()) {
+        if (HasEnoughPoints() && OfferFinish()) {
             hitLevel = Busy;
         }
     } else if (state == Complete && HandleRightPress(press) && enableRBtnDelete) {
@@ -67,6 +71,11 @@ void CClickPathShape::HandleRButtonEvent(const ContainerMouseEvent& event, int h
     }
     FinishByRightButton(hitLevel);
     DeleteByRightButton(hitLevel);
+}
+
+/// A maximum below the minimum ends a drawing too, else nothing could.
+bool CClickPathShape::HasEnoughPoints() const {
+    return static_cast<int>(PointCount()) >= std::min(minPtNum.load(), std::max(maxPtNum.load(), 1));
 }
 
 bool CClickPathShape::OfferFinish() {
@@ -128,18 +137,17 @@ void CClickPathShape::StartEditing(const PointF& press, int /*hitLevel*/) {
 }
 
 bool CClickPathShape::OnMouseMove(const PointF& position) {
+    const PointF clamped = ClampToView(anchorPoint, position);
     switch (state) {
     case Drawing:
         SetLastPoint(position);
         break;
     case Moving:
-        MoveTo(position);
+        MoveTo(clamped);
         break;
-    case Adjusting: {
-        const PointF clamped = ClampToView(anchorPoint, position);
+    case Adjusting:
         EditPoints([&](Points& path) { return BuildDragPoints(grabbedIndex, clamped, path); });
         break;
-    }
     default:
         break;
     }
@@ -161,7 +169,7 @@ bool CClickPathShape::OnButtonUp(const PointF& position, const ContainerMouseEve
 }
 
 bool CClickPathShape::MoveTo(const PointF& position) {
-    return FollowMouse(ClampToView(anchorPoint, position));
+    return FollowMouse(position);
 }
 
 bool CClickPathShape::BuildDragPoints(int index, const PointF& current, Points& out) {

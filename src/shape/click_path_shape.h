@@ -58,6 +58,7 @@ class CClickPathShape : public CGestureShape {
     bool IsOutsideLimit(const PointF& point) const;
 
   private:
+    bool HasEnoughPoints() const;
     int LevelAt(const PointF& press) const;
     bool AcceptsNext(const PointF& last, const PointF& next, bool isLast);
     bool AcceptsVertexMove(int index, const PointF& position);

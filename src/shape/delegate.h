@@ -29,6 +29,9 @@ class Delegate<Result(Arguments...)> {
 
     Result operator()(Arguments... arguments) const { return *this ? method(target, arguments...) : Result(); }
 
+    /// The answer of a delegate that judges; an empty one accepts.
+    bool Accepts(Arguments... arguments) const { return !*this || (*this)(arguments...); }
+
     friend bool operator==(const Delegate& a, const Delegate& b) {
         return a.target == b.target && a.method == b.method;
     }

@@ -6,7 +6,6 @@ namespace {
 constexpr float AdjustBoxHalfSide = 3.0F;
 constexpr float AdjustBoxWidth = 2.0F;
 constexpr float DirectionMarkWidth = 2.0F;
-constexpr int SolidPen = 0;
 constexpr int CaptionFormat = 32;
 
 void DrawBarbs(const PointF& tip, const ArrowBarbs& barbs, float width, const ColorF& colour,

@@ -5,6 +5,11 @@
 
 namespace rulecanvas {
 
+constexpr int SolidPen = 0;
+constexpr int PatternedPen = 1;
+/// The size that figures give their captions.
+constexpr float FigureCaptionSize = 2.0F;
+
 /// A small box round each point.
 void DrawAdjustBoxes(const Points& points, IContainerGraphics& surface, const ColorF& colour);
 

@@ -22,13 +22,6 @@ CGestureShape::CGestureShape()
     DrawHook = DrawListener::Bind<&CGestureShape::HearDraw>(this);
 }
 
-template <class Call>
-bool CGestureShape::Undisturbed(Call call) {
-    const unsigned before = revision;
-    call();
-    return before == revision && !IsRetired();
-}
-
 void CGestureShape::HandleLButtonDownEvent(const ContainerMouseEvent& event, int hitLevel) {
     const PointF press = PositionOf(event);
     switch (state) {
@@ -67,13 +60,16 @@ bool CGestureShape::RestartDrawing() {
 bool CGestureShape::MoveShape(float dx, float dy) {
     return EditPoints([&](Points& moved) {
         moved = Moved(moved, dx, dy);
-        return AcceptsPoints(moved);
+        return AcceptsMoved(moved);
     });
 }
 
 void CGestureShape::Dispose() {
     Disturb();
     UnregisterDraw();
+    if (InGesture()) {
+        Capture(false);
+    }
     AwaitPaint();
     ClearPoints();
     Unsubscribe();
@@ -108,32 +104,22 @@ void CGestureShape::BeginConfiguration(const char* shapeName) {
 
 bool CGestureShape::BeginGesture(ShapeState gestureState) {
     Disturb();
-    const int stateBefore = state.exchange(gestureState);
-    if (!Capture(true)) {
-        return false;
-    }
-    try {
-        Subscribe();
-    } catch (...) { // without memory: a shape that hears nothing must not claim every press
-        state = stateBefore;
-        EndGesture();
-        throw;
-    }
-    return true;
+    Subscribe(); // first: a host may send events while it takes the capture
+    state = gestureState;
+    return Capture(true);
 }
 
 bool CGestureShape::Grab(ShapeState gestureState) {
     adjustBoxShown = true;
     selected = true;
+    state = gestureState; // first: a press that the host sends from inside must not grab once more
     return NotifySelection() && BeginGesture(gestureState);
 }
 
 bool CGestureShape::BecomeComplete() {
-    if (!NotifyState(Complete)) {
-        return false;
-    }
-    state = Complete;
-    return true;
+    Disturb();
+    const int previous = state.exchange(Complete); // first: what the host sends from inside meets a complete shape
+    return NotifyState(previous, Complete);
 }
 
 bool CGestureShape::FinishGesture() {
@@ -142,19 +128,16 @@ bool CGestureShape::FinishGesture() {
 
 bool CGestureShape::EndGesture() {
     Disturb(); // a step that waits for the host further up must not end the gesture again
-    const bool undisturbed = Capture(false);
-    if (undisturbed) {
-        Unsubscribe();
-    }
-    return undisturbed;
+    Unsubscribe();
+    return Capture(false);
 }
 
 bool CGestureShape::NotifySelection() {
     return Undisturbed([&] { SelectNotifyHook(1, 1); });
 }
 
-bool CGestureShape::NotifyState(int newState) {
-    return Undisturbed([&] { StateNotifyHook(state, newState); });
+bool CGestureShape::NotifyState(int previousState, int newState) {
+    return Undisturbed([&] { StateNotifyHook(previousState, newState); });
 }
 
 bool CGestureShape::Capture(bool take) {
@@ -164,10 +147,16 @@ bool CGestureShape::Capture(bool take) {
 void CGestureShape::Subscribe() {
     IShapeContainer* owner = GetContainer();
     platform::LockGuard guard(lock);
-    if (owner != nullptr && !subscribed) {
-        subscribed = true;
+    if (owner == nullptr || subscribed) {
+        return;
+    }
+    subscribed = true;
+    try {
         owner->RegisterWinMouseEvent(MouseListenerKind::ButtonUp, weak_from_this(), upListener);
         owner->RegisterWinMouseEvent(MouseListenerKind::MouseMoved, weak_from_this(), moveListener);
+    } catch (...) { // without memory: a gesture is heard whole or not at all
+        Unsubscribe();
+        throw;
     }
 }
 
@@ -202,6 +191,14 @@ PointF CGestureShape::ClampToView(const PointF& anchor, const PointF& position) 
     return ClampRelative(anchor, position, ViewRect());
 }
 
+bool CGestureShape::HasView() const {
+    return SizeOf(ViewRect()).Known();
+}
+
+bool CGestureShape::AcceptsMoved(const Points& moved) const {
+    return AcceptsPoints(moved);
+}
+
 bool CGestureShape::AcceptsPoints(const Points& candidates) const {
     return std::all_of(candidates.begin(), candidates.end(), [&](const PointF& point) { return AcceptsPoint(point); });
 }
@@ -215,7 +212,7 @@ bool CGestureShape::FollowMouse(const PointF& position) {
 }
 
 bool CGestureShape::HearMouseMove(const ContainerMouseEvent& event) {
-    return event.viewId == GetViewId() && OnMouseMove(PositionOf(event));
+    return event.viewId == GetViewId() && HasView() && OnMouseMove(PositionOf(event));
 }
 
 bool CGestureShape::HearButtonUp(const ContainerMouseEvent& event) {

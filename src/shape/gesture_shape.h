@@ -58,9 +58,17 @@ class CGestureShape : public CVideoAnalyseShape {
 
     /// Stops every step that waits for an answer of the host: the shape is no longer where that step left it.
     void Disturb() { ++revision; }
+    /// Runs a callback into the host. False when the host answered by changing the shape.
+    template <class Call>
+    bool Undisturbed(Call call) {
+        const unsigned before = revision;
+        call();
+        return before == revision && !IsRetired();
+    }
     bool NotifySelection();
-    bool NotifyState(int newState);
+    bool NotifyState(int previousState, int newState);
     bool Capture(bool take);
+    void SendState(int previousState, int newState);
     void Subscribe();
     void Unsubscribe();
 
@@ -72,8 +80,13 @@ class CGestureShape : public CVideoAnalyseShape {
     /// The position in whole pixels, kept inside the view as seen from `anchor`.
     PointF ClampToView(const PointF& anchor, const PointF& position) const;
 
+    /// False while the view has no size, as that of a minimised window: nothing could be placed in it.
+    bool HasView() const;
+
     /// Whether all points may be used in the shape's view.
     bool AcceptsPoints(const Points& candidates) const;
+    /// Whether the shape may be moved to these points.
+    virtual bool AcceptsMoved(const Points& moved) const;
 
     /// Moves the whole shape after the mouse and takes the mouse over as the new anchor; a refused step changes
     /// nothing.
@@ -84,10 +97,7 @@ class CGestureShape : public CVideoAnalyseShape {
     bool HearMouseMove(const ContainerMouseEvent& event);
     bool HearButtonUp(const ContainerMouseEvent& event);
     void SendSelection(int select, int notify);
-    void SendState(int previousState, int newState);
-    /// Runs a callback into the host. False when the host answered by changing the shape.
-    template <class Call>
-    bool Undisturbed(Call call);
+
     MouseListener moveListener;
     MouseListener upListener;
     std::atomic<bool> subscribed{false};

@@ -1,6 +1,7 @@
 #include "shape/point_json.h"
 
 #include "shape/geometry.h"
+#include "shape/json_text.h"
 
 #include <algorithm>
 
@@ -22,13 +23,13 @@ Json::Value WritePoint(const PointF& point, const ViewSize& view) {
     return pair;
 }
 
-Json::Value WritePoints(const std::string& key, const Points& points, const ViewSize& view) {
+std::string PointsText(const std::string& key, const Points& points, const ViewSize& view) {
     Json::Value root(Json::objectValue);
     Json::Value& array = root[key] = Json::Value(Json::arrayValue);
     for (const PointF& point : points) {
         array.append(WritePoint(point, view));
     }
-    return root;
+    return WriteJson(root);
 }
 
 Points Truncated(Points points) {

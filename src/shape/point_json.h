@@ -15,8 +15,8 @@ PointF ReadRealPoint(const Json::Value& pair, const ViewSize& view);
 /// The [x, y] pair of whole grid numbers of a point.
 Json::Value WritePoint(const PointF& point, const ViewSize& view);
 
-/// An object with one member, the array of the points.
-Json::Value WritePoints(const std::string& key, const Points& points, const ViewSize& view);
+/// One line of JSON: an object with one member, the array of the points.
+std::string PointsText(const std::string& key, const Points& points, const ViewSize& view);
 
 /// The points in whole pixels, as some shapes round before they write.
 Points Truncated(Points points);

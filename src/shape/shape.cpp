@@ -191,6 +191,12 @@ Points CVideoAnalyseShape::CopyPoints() const {
     return points;
 }
 
+FittedPoints CVideoAnalyseShape::CopyFitted() {
+    KnownViewSize();
+    LockGuard guard(lock);
+    return FittedPoints{points, ViewSize{clientWidth, clientHeight}};
+}
+
 void CVideoAnalyseShape::AppendPointsTo(Points& out) const {
     LockGuard guard(lock);
     out.insert(out.end(), points.begin(), points.end());
@@ -218,9 +224,9 @@ ShapeLook CVideoAnalyseShape::CopyLook() const {
     look.state = state;
     look.selected = selected;
     look.handles = adjustBoxShown;
+    LockGuard guard(lock);
     look.selThickness = lineThickness;
     look.unSelThickness = unSelLineThickness;
-    LockGuard guard(lock);
     look.points = points;
     look.selColour = selColor;
     look.unSelColour = unSelColor;

@@ -113,12 +113,15 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     bool ParseStyleConfig(const char* styleText);
     void ClearPoints();
     Points CopyPoints() const;
+    /// The points and the view size they are fitted to, of one moment.
+    FittedPoints CopyFitted();
     void AppendPointsTo(Points& out) const;
     size_t PointCount() const;
     void ReplacePoints(Points newPoints);
     void AppendPoint(const PointF& point);
-    /// Runs `edit` on a copy of the points, without the lock, and takes the copy over when it returns true and
-    /// neither the points nor the state changed in the meantime. False: nothing changed.
+    /// Runs `edit` on a copy of the points, without the lock, and takes the copy over when it returns true; from
+    /// the beginning when a refit changed the points meanwhile. False, with nothing changed: the edit refused, or the host
+    /// took the shape into another state.
     template <class Edit>
     bool EditPoints(Edit edit);
     /// A consistent copy of all that drawing needs.
@@ -190,24 +193,27 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
 
 template <class Edit>
 bool CVideoAnalyseShape::EditPoints(Edit edit) {
-    Points edited;
-    unsigned version = 0;
+    constexpr int patience = 3; // a resized window refits the points now and then, not for ever
     const int stateBefore = state;
-    {
+    for (int attempt = 0; attempt < patience; ++attempt) {
+        Points edited;
+        unsigned version = 0;
+        {
+            platform::LockGuard guard(lock);
+            edited = points;
+            version = pointsVersion;
+        }
+        if (!edit(edited) || stateBefore != state) {
+            return false;
+        }
         platform::LockGuard guard(lock);
-        edited = points;
-        version = pointsVersion;
+        if (version == pointsVersion) {
+            points = std::move(edited);
+            ++pointsVersion;
+            return true;
+        }
     }
-    if (!edit(edited)) {
-        return false;
-    }
-    platform::LockGuard guard(lock);
-    if (version != pointsVersion || stateBefore != state) {
-        return false;
-    }
-    points = std::move(edited);
-    ++pointsVersion;
-    return true;
+    return false;
 }
 
 } // namespace rulecanvas

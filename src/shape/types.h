@@ -16,6 +16,11 @@ struct ViewSize {
     bool Known() const { return width > 0 && height > 0; }
 };
 
+struct FittedPoints {
+    Points points;
+    ViewSize view;
+};
+
 /// Where a shape stands in its life. The numbers are part of every state notification.
 enum ShapeState : int {
     Deleted = 0,

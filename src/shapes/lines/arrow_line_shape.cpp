@@ -16,17 +16,18 @@ constexpr int HeadOnFirstSegment = 5;
 } // namespace
 
 void CArrowLineShape::HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) {
-    if (IsAcceptable(CopyPoints(), true)) {
+    if (hitLevel == Busy && IsAcceptable(CopyPoints(), true)) {
         CPathLineShape::HandleRButtonEvent(event, hitLevel);
     }
 }
 
 bool CArrowLineShape::MoveShape(float dx, float dy) {
     KnownViewSize(); // as for a dragged point
-    return EditPoints([&](Points& path) {
-        path = Moved(path, dx, dy);
-        return AcceptsPoints(path) && PassesChecks(path);
-    });
+    return CGestureShape::MoveShape(dx, dy);
+}
+
+bool CArrowLineShape::AcceptsMoved(const Points& moved) const {
+    return AcceptsPoints(moved) && PassesChecks(moved);
 }
 
 bool CArrowLineShape::BuildDragPoints(int index, const PointF& current, Points& out) {
@@ -34,15 +35,7 @@ bool CArrowLineShape::BuildDragPoints(int index, const PointF& current, Points& 
 }
 
 bool CArrowLineShape::PassesChecks(const Points& path) const {
-    return IsAcceptable(path, false) && (!GeometryCheckHook || GeometryCheckHook(path));
-}
-
-/// Unlike the other lines, an arrow that ends in the middle of a gesture gives the mouse capture back itself.
-void CArrowLineShape::Dispose() {
-    if (InGesture()) {
-        ClearShape();
-    }
-    CPathLineShape::Dispose();
+    return IsAcceptable(path, false) && GeometryCheckHook.Accepts(path);
 }
 
 void CArrowLineShape::PrepareToDraw() {

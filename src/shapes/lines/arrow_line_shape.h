@@ -15,7 +15,7 @@ class CArrowLineShape : public CPathLineShape {
     bool BuildDragPoints(int index, const PointF& current, Points& out) override;
 
   protected:
-    void Dispose() override;
+    bool AcceptsMoved(const Points& moved) const override;
     void PrepareToDraw() override;
     void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
 

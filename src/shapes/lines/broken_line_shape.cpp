@@ -21,11 +21,11 @@ CBrokenLineShape::CBrokenLineShape() {
 }
 
 CVideoAnalyseShape* CBrokenLineShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    CVideoAnalyseShape* const answering = CClickPathShape::HitTestLButtonDown(event, hitLevel);
-    if (hitLevel == Inside) {
-        hitLevel = Outside; // the left button finds an open path by its segments alone
+    if (state != Complete) {
+        return CClickPathShape::HitTestLButtonDown(event, hitLevel);
     }
-    return answering;
+    hitLevel = OnPath(CopyPoints(), PositionOf(event)) ? OnOutline : Outside; // an open path has no inside to press
+    return this;
 }
 
 bool CBrokenLineShape::IsOnOutline(const Points& path, const PointF& press) const {
@@ -48,7 +48,7 @@ bool CBrokenLineShape::MoveTo(const PointF& position) {
 }
 
 bool CBrokenLineShape::EndMove(const PointF& release) {
-    return MoveTo(release);
+    return MoveTo(ClampToView(anchorPoint, release));
 }
 
 bool CBrokenLineShape::IsPoint(const Json::Value& element) const {
@@ -56,11 +56,8 @@ bool CBrokenLineShape::IsPoint(const Json::Value& element) const {
 }
 
 bool CBrokenLineShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const Points path = CopyPoints();
-    if (buffer == nullptr || path.size() < FewestWritten) {
-        return false;
-    }
-    return CopyLine(WriteJson(WritePoints(name, path, KnownViewSize())), buffer, size);
+    const auto [path, view] = CopyFitted();
+    return path.size() >= FewestWritten && CopyLine(PointsText(name, path, view), buffer, size);
 }
 
 void CBrokenLineShape::DrawRest(const ShapeLook& look, IContainerGraphics& surface) {

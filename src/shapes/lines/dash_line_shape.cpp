@@ -8,11 +8,9 @@ namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("DashLineShape", &MakeShape<CDashLineShape>);
 
-constexpr int DashedPen = 1;
-
 /// Always as thick as a selected line.
 void DrawDashes(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {
-    surface.DrawLine(&from, &to, look.SelectedThickness(), &look.Colour(), DashedPen);
+    surface.DrawLine(&from, &to, look.SelectedThickness(), &look.Colour(), PatternedPen);
 }
 
 } // namespace
@@ -25,6 +23,8 @@ void CDashLineShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
         DrawShowName(look, surface, look.Colour());
     } else if (look.points.size() == 1 && look.PointerInView()) {
         DrawDashes(look.points[0], look.lastPoint, look, surface);
+    } else {
+        return;
     }
     if (look.handles) {
         DrawAdjustBoxes(look.points, surface, look.Colour());

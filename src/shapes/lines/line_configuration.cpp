@@ -56,8 +56,8 @@ bool CLineShape::LoadPoints(const char* shapeData) {
 }
 
 bool CLineShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const Points path = CopyPoints();
-    return path.size() >= LinePoints && CopyLine(WriteJson(WritePoints(name, path, KnownViewSize())), buffer, size);
+    const auto [path, view] = CopyFitted();
+    return path.size() >= LinePoints && CopyLine(PointsText(name, path, view), buffer, size);
 }
 
 bool CLineShape::ClipToPolygon(const char* text, const char* key, int mode) {
@@ -69,6 +69,9 @@ bool CLineShape::ClipToPolygon(const char* text, const char* key, int mode) {
     const ViewSize view = KnownViewSize();
     Points ring;
     for (const Json::Value& corner : MemberOf(root, key)) {
+        if (!IsArrayOf(corner, 2)) {
+            return false;
+        }
         ring.push_back(ReadRealPoint(corner, view));
     }
     Points meetings = MeetingsWithRing(line[0], line[1], ring);

@@ -72,6 +72,7 @@ CVideoAnalyseShape* CLineShape::HitTestLButtonDown(const ContainerMouseEvent& ev
 }
 
 void CLineShape::ClearShape() {
+    ClearPoints(); // first: a paint must not see a rubber line to the origin
     SetLastPoint(PointF{});
     CGestureShape::ClearShape();
 }
@@ -81,11 +82,11 @@ void CLineShape::RemoveSubShape(ShapeID /*id*/) {
 }
 
 size_t CLineShape::MaximumPoints() const {
-    return std::max(LinePoints, static_cast<size_t>(std::max(0, maxPtNum.load())));
+    return LinePoints;
 }
 
 bool CLineShape::IsAcceptable(const Points& path, bool complete) const {
-    return !ValidationHook || ValidationHook(path, complete);
+    return ValidationHook.Accepts(path, complete);
 }
 
 PointF CLineShape::Oriented(PointF point, const PointF& other) const {
@@ -99,8 +100,8 @@ PointF CLineShape::Oriented(PointF point, const PointF& other) const {
 
 void CLineShape::StartDrawing(const PointF& press) {
     if (AcceptsPoint(press) && IsAcceptable({press}, false) && state == Waiting) {
-        ReplacePoints({press});
         SetLastPoint(press);
+        ReplacePoints({press});
         BeginGesture(Drawing);
     }
 }
@@ -119,12 +120,9 @@ void CLineShape::StartEditing(const PointF& press, int hitLevel) {
 }
 
 bool CLineShape::OnMouseMove(const PointF& position) {
-    const Points path = CopyPoints();
     switch (state) {
     case Drawing:
-        if (!path.empty()) {
-            SetLastPoint(ClampToView(path.front(), position));
-        }
+        DragRubberEnd(position);
         break;
     case Moving:
         MoveTo(position);
@@ -136,6 +134,13 @@ bool CLineShape::OnMouseMove(const PointF& position) {
         break;
     }
     return true;
+}
+
+void CLineShape::DragRubberEnd(const PointF& position) {
+    const Points path = CopyPoints();
+    if (!path.empty()) {
+        SetLastPoint(ClampToView(path.front(), position));
+    }
 }
 
 bool CLineShape::OnButtonUp(const PointF& position, const ContainerMouseEvent& /*event*/) {
@@ -156,7 +161,7 @@ bool CLineShape::OnButtonUp(const PointF& position, const ContainerMouseEvent& /
 void CLineShape::PlacePoint(const PointF& position) {
     bool beyondLimit = false;
     const bool taken = EditPoints([&](Points& path) {
-        if (path.empty()) {
+        if (path.empty() || path.size() >= MaximumPoints() || !HasView()) {
             return false;
         }
         const PointF release = Released(position, path.front());
@@ -202,7 +207,7 @@ void CLineShape::MoveTo(const PointF& position) {
 }
 
 bool CLineShape::AdjustEndpoint(const PointF& position) {
-    return canAdjust && !movedHLine && EditPoints([&](Points& adjusted) {
+    return canAdjust && !movedHLine && HasView() && EditPoints([&](Points& adjusted) {
                if (!DragPointsHook(grabbedIndex, position, adjusted)) {
                    return false;
                }
@@ -214,9 +219,11 @@ bool CLineShape::AdjustEndpoint(const PointF& position) {
 }
 
 void CLineShape::FinishEditing(const PointF& release) {
-    AdjustEndpoint(release);
-    ValidationHook(CopyPoints(), true);
-    if (state == Moving || state == Adjusting) { // not restarted by the host meanwhile
+    const bool undisturbed = Undisturbed([&] {
+        AdjustEndpoint(release);
+        ValidationHook(CopyPoints(), true);
+    });
+    if (undisturbed) {
         FinishGesture();
     }
 }
@@ -231,7 +238,7 @@ bool CLineShape::BuildDragPoints(int index, const PointF& current, Points& out) 
         return false;
     }
     const PointF other = out[static_cast<size_t>(1 - index)];
-    out[static_cast<size_t>(index)] = Oriented(ClampToView(other, current), other);
+    out[static_cast<size_t>(index)] = ClampToView(other, Oriented(current, other));
     return true;
 }
 

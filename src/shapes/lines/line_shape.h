@@ -45,13 +45,14 @@ class CLineShape : public CGestureShape {
     bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
     void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
 
-    /// How many points the line may have: two at least, whatever the host asked for.
-    size_t MaximumPoints() const;
+    /// How many points the line may have; limits of the host are for lines that may bend.
+    virtual size_t MaximumPoints() const;
     /// The answer of whoever wants to judge the line; `complete` marks its final form.
     bool IsAcceptable(const Points& path, bool complete) const;
 
   private:
     PointF Oriented(PointF point, const PointF& other) const;
+    void DragRubberEnd(const PointF& position);
     void PlacePoint(const PointF& position);
     /// Where a release offers a point: in the view, and level for a horizontal line.
     PointF Released(const PointF& position, const PointF& first) const;

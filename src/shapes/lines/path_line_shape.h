@@ -15,6 +15,10 @@ class CPathLineShape : public CLineShape {
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
     /// The points with one of them at `current`; false when it may not be there.
     bool BuildDragPoints(int index, const PointF& current, Points& out) override;
+
+  protected:
+    /// Two at least, whatever the host asked for.
+    size_t MaximumPoints() const override;
 };
 
 } // namespace rulecanvas

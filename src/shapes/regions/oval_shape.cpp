@@ -8,16 +8,17 @@
 #include "shape/shape_factory.h"
 #include "shape/text.h"
 
+#include <algorithm>
+
 namespace rulecanvas {
 namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("OvalShape", &MakeShape<COvalShape>);
 
-/// Ovals are read under this key whatever their name, but written under their name. Hosts that load what they saved
-/// rename the member in between; changing either side would break them.
+/// Ovals are read under this key whatever their name, but written under their name, and both are to stay so: a host renames
+/// the member of what it saved before it loads it.
 constexpr const char* ConfigurationKey = "OvalShape";
 constexpr int SmallestResize = 4;
-constexpr float CaptionSize = 2.0F;
 
 enum class Keeps { Nothing, X, Y };
 
@@ -42,6 +43,13 @@ Points HandlesOf(const Points& corners) {
         corners[2], {corners[2].x - halfWidth, corners[2].y}, corners[3], {corners[3].x, corners[3].y - halfHeight}};
 }
 
+/// The corners of a configuration may come in any order.
+bool InBox(const Points& corners, const PointF& p) {
+    const auto [left, right] = std::minmax(corners[0].x, corners[2].x);
+    const auto [top, bottom] = std::minmax(corners[0].y, corners[2].y);
+    return left <= p.x && p.x <= right && top <= p.y && p.y <= bottom;
+}
+
 } // namespace
 
 COvalShape::COvalShape() {
@@ -57,10 +65,14 @@ CVideoAnalyseShape* COvalShape::HitTestLButtonDown(const ContainerMouseEvent& ev
         if (OnRing(corners, press)) {
             hitLevel = OnOutline;
         } else {
-            hitLevel = InPolygon(corners, press) ? Inside : Outside;
+            hitLevel = InBox(corners, press) ? Inside : Outside;
         }
     }
     return this;
+}
+
+void COvalShape::GetShapePoints(Points& out) const {
+    AppendPointsTo(out);
 }
 
 void COvalShape::ClearShape() {
@@ -88,7 +100,7 @@ void COvalShape::StartEditing(const PointF& press, int /*hitLevel*/) {
         SetAnchorPoint(corners[handle.anchorCorner]);
         edgeFixPoint = corners[handle.keptCorner];
         Grab(Adjusting);
-    } else if (InPolygon(corners, press)) {
+    } else if (InBox(corners, press)) {
         SetAnchorPoint(press);
         Grab(Moving);
     }
@@ -146,19 +158,18 @@ bool COvalShape::FinishDrawing(const PointF& release) {
         state = Waiting; // and keeps listening: a click is as good a beginning as a press
         return false;
     }
-    const ClientRect rect = SpanRectangle(anchorPoint, release, ViewRect()).rect;
-    if (!NotifyState(Complete)) {
+    const int stateBefore = state;
+    const ClientRect view = ViewRect();
+    if (!SizeOf(view).Known() || stateBefore != state) {
         return false;
     }
     SetLastPoint(release);
-    ReplacePoints(CornersOf(rect));
-    state = Complete;
-    // The host expects to keep the mouse after a drawing: it is asked for once more, not given back.
-    if (!Capture(true)) {
+    ReplacePoints(CornersOf(SpanRectangle(anchorPoint, release, view).rect));
+    if (!BecomeComplete()) {
         return false;
     }
     Unsubscribe();
-    return true;
+    return Capture(true); // after a drawing the mouse is asked for once more, not given back: an oval keeps it
 }
 
 bool COvalShape::SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* /*styleOrMode*/) {
@@ -192,12 +203,9 @@ bool COvalShape::LoadCorners(const char* shapeData) {
 }
 
 bool COvalShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const Points corners = CopyPoints();
-    if (buffer == nullptr || corners.size() < CornerCount) {
-        return false;
-    }
-    const Points diagonal = Truncated({corners[0], corners[2]});
-    return CopyText(WriteJson(WritePoints(name, diagonal, KnownViewSize())), buffer, size);
+    const auto [corners, view] = CopyFitted();
+    return corners.size() >= CornerCount &&
+           CopyText(PointsText(name, Truncated({corners[0], corners[2]}), view), buffer, size);
 }
 
 bool COvalShape::IsShownIn(ViewID /*view*/) const {
@@ -218,7 +226,7 @@ void COvalShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
     if (!framed) {
         return;
     }
-    DrawCaptionAt(from, look.Text(colour, CaptionSize), look.caption, surface);
+    DrawCaptionAt(from, look.Text(colour, FigureCaptionSize), look.caption, surface);
     if (look.handles) {
         DrawAdjustBoxes(HandlesOf(look.points), surface, colour);
     }
@@ -226,11 +234,8 @@ void COvalShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
 
 /// An oval's changes of state can be followed in a debugger.
 void COvalShape::SendState(int previousState, int newState) {
-    if (IShapeContainer* owner = GetContainer()) {
-        const std::string event = StateEvent(*this, previousState, newState);
-        platform::DebugOutput(event.c_str());
-        owner->Notify(event);
-    }
+    platform::DebugOutput(StateEvent(*this, previousState, newState).c_str());
+    CGestureShape::SendState(previousState, newState);
 }
 
 } // namespace rulecanvas

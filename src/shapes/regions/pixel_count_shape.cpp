@@ -15,7 +15,6 @@ namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("PixelCountShape", &MakeShape<CPixelCountShape>);
 
-constexpr int PatternedPen = 1;
 constexpr float OutlineWidth = 1.0F;
 constexpr PointF TextOffset{-15.0F, -2.0F};
 constexpr double SmallestHalfSide = 2.0;
@@ -112,6 +111,7 @@ void CPixelCountShape::Place(const ViewSize& display) {
     });
     if (placed) {
         placePending = false;
+        FitToClientRect();
     }
 }
 

@@ -85,14 +85,16 @@ bool CPolygonShape::OfferFinish() {
 
 void CPolygonShape::DiscardDrawing() {
     ClearPoints();
-    if (NotifyState(Waiting)) {
-        state = Waiting;
+    Disturb();
+    const int previous = state.exchange(Waiting);
+    SetLastPoint(PointF{});
+    if (NotifyState(previous, Waiting)) {
         EndGesture();
     }
 }
 
 bool CPolygonShape::AcceptsPath(const Points& extended, bool isLast) {
-    return (!ValidationHook || ValidationHook(extended, isLast)) && !LastEdgeCrosses(extended) &&
+    return ValidationHook.Accepts(extended, isLast) && !LastEdgeCrosses(extended) &&
            !(isLast && ClosingEdgeCrosses(extended));
 }
 
@@ -100,8 +102,8 @@ bool CPolygonShape::AcceptsVertex(const Points& ring, size_t vertex) const {
     return !VertexCrosses(ring, vertex) && CClickPathShape::AcceptsVertex(ring, vertex);
 }
 
-/// By what the release lies beyond the last accepted position the polygon is tested shifted back, not on: its owners
-/// set their limits by that.
+/// By what the release lies beyond the last accepted position the polygon is tested shifted back, not on, and so a limit
+/// is to be understood.
 bool CPolygonShape::EndMove(const PointF& release) {
     const float dx = static_cast<float>(TruncateToInt(release.x - anchorPoint.x));
     const float dy = static_cast<float>(TruncateToInt(release.y - anchorPoint.y));
@@ -114,11 +116,12 @@ bool CPolygonShape::IsPoint(const Json::Value& element) const {
 }
 
 bool CPolygonShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const Points ring = CopyPoints();
-    if (buffer == nullptr || ring.size() < FewestWritten) {
-        return false;
-    }
-    return CopyTextUncounted(WriteJson(WritePoints(name, Truncated(ring), KnownViewSize())), buffer, size);
+    const auto [ring, view] = CopyFitted();
+    return ring.size() >= FewestWritten && CopyTextUncounted(PointsText(name, Truncated(ring), view), buffer, size);
+}
+
+void CPolygonShape::GetShapePoints(Points& out) const {
+    AppendPointsTo(out);
 }
 
 void CPolygonShape::PrepareToDraw() {

@@ -17,6 +17,8 @@ class CPolygonShape final : public CClickPathShape {
 
     bool RestartDrawing() override;
     bool MoveShape(float dx, float dy) override;
+    /// Appends the vertices.
+    void GetShapePoints(Points& out) const override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
 
   protected:

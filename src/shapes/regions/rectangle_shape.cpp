@@ -16,8 +16,6 @@ namespace {
 const bool registered = CShapeFactory::GetInstance().Register("Rect", &MakeShape<CRectangleShape>);
 
 constexpr int RectangleType = 5;
-constexpr int PatternedPen = 1;
-constexpr float CaptionSize = 2.0F;
 
 int OppositeCorner(int corner) {
     return corner < 2 ? corner + 2 : corner - 2;
@@ -70,7 +68,7 @@ void CRectangleShape::GetShapePoints(Points& out) const {
 }
 
 void CRectangleShape::StartDrawing(const PointF& press) {
-    if (AcceptsPoint(press)) {
+    if (AcceptsPoint(press) && state == Waiting) {
         SetAnchorPoint(press);
         BeginGesture(Drawing);
     }
@@ -140,9 +138,10 @@ bool CRectangleShape::BuildDragPoints(int /*index*/, const PointF& current, Poin
 }
 
 bool CRectangleShape::BuildFromTwoPoints(const PointF& first, const PointF& second, Points& out) const {
-    const ClientRect rect = SpanRectangle(first, second, ViewRect()).rect;
+    const ClientRect view = ViewRect();
+    const ClientRect rect = SpanRectangle(first, second, view).rect;
     const ViewSize size = SizeOf(rect);
-    if (size.width < minimumSide || size.height < minimumSide) {
+    if (!SizeOf(view).Known() || size.width < minimumSide || size.height < minimumSide) {
         return false;
     }
     out = CornersOf(rect);
@@ -218,12 +217,9 @@ bool CRectangleShape::LoadCorners(const char* shapeData) {
 }
 
 bool CRectangleShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const Points corners = CopyPoints();
-    if (buffer == nullptr || corners.size() < CornerCount) {
-        return false;
-    }
-    const Points diagonal = Truncated({corners[0], corners[2]});
-    return CopyText(WriteJson(WritePoints(name, diagonal, KnownViewSize())), buffer, size);
+    const auto [corners, view] = CopyFitted();
+    return corners.size() >= CornerCount &&
+           CopyText(PointsText(name, Truncated({corners[0], corners[2]}), view), buffer, size);
 }
 
 float CRectangleShape::OutlineThickness(const ShapeLook& look) const {
@@ -235,7 +231,7 @@ void CRectangleShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
         return;
     }
     const ColorF colour = look.Colour();
-    DrawCaptionAt(look.points[0], look.Text(colour, CaptionSize), look.caption, surface);
+    DrawCaptionAt(look.points[0], look.Text(colour, FigureCaptionSize), look.caption, surface);
     if (!textOnly) {
         surface.DrawRectangle(&look.points[0], &look.points[2], OutlineThickness(look), &colour, penStyle);
     }

@@ -1,5 +1,6 @@
 #include "shapes/scene/big_cross_shape.h"
 
+#include "shape/drawing.h"
 #include "shape/geometry.h"
 #include "shape/grid.h"
 #include "shape/shape_factory.h"
@@ -9,7 +10,6 @@ namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("BigCrossShape", &MakeShape<CBigCrossShape>);
 
-constexpr int SolidPen = 0;
 constexpr float DotHalfSide = 5.0F;
 constexpr int BandHalfWidth = 1;
 

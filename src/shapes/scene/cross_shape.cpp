@@ -15,7 +15,6 @@ const bool registered = CShapeFactory::GetInstance().Register("CrossShape", &Mak
 
 constexpr long MostCrosses = 1024;
 constexpr float CaptionSize = 24.0F;
-constexpr int SolidPen = 0;
 
 /// One pixel longer to the left and up than to the right and down: there lies the second pixel of a stroke that is two
 /// pixels wide, and all four arms reach five pixels beyond it.

@@ -49,8 +49,12 @@ void CPlacedCrosses::ContinueDrawing(const PointF& press) {
 }
 
 void CPlacedCrosses::PlaceCross(const PointF& press) {
-    if (AcceptsPoint(press)) {
-        AppendPoint(press);
+    const bool placed = EditPoints([&](Points& crosses) {
+        const bool room = crosses.empty() || static_cast<int>(crosses.size()) < Maximum();
+        crosses.push_back(press);
+        return room && AcceptsPoint(press);
+    });
+    if (placed) {
         BeginGesture(Drawing);
     }
 }
@@ -71,7 +75,7 @@ bool CPlacedCrosses::OnButtonUp(const PointF& position, const ContainerMouseEven
     bool finished = false;
     if (state == Drawing) {
         MoveCross(LastCross(), position); // where the button was released, be it outside the view
-        finished = static_cast<int>(PointCount()) == Maximum();
+        finished = static_cast<int>(PointCount()) >= Maximum();
     } else if (state == Adjusting) {
         DropCross(position);
         finished = true;
@@ -125,12 +129,12 @@ bool CPlacedCrosses::LoadCrosses(const char* shapeData) {
 }
 
 bool CPlacedCrosses::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const Points crosses = CopyPoints();
-    if (buffer == nullptr || static_cast<int>(crosses.size()) != Maximum()) {
+    const auto [crosses, view] = CopyFitted();
+    if (static_cast<int>(crosses.size()) != Maximum()) {
         return false;
     }
     Json::Value root;
-    root[name] = WriteCrosses(crosses, KnownViewSize());
+    root[name] = WriteCrosses(crosses, view);
     return CopyTextUncounted(WriteJson(root), buffer, size);
 }
 

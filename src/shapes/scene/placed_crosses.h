@@ -10,8 +10,7 @@ namespace rulecanvas {
 ///
 /// The points are the crosses in placing order; `grabbedIndex` is the cross under the last press. Every click is a
 /// gesture of its own: the new cross follows the mouse until the button is released. Between two clicks the shape stays
-/// in the drawing state and listens to nothing. No gesture gives the mouse capture back: the button's release ends it
-/// in the host, and clearing the shape ends it here.
+/// in the drawing state and listens to nothing. No gesture gives the mouse capture back; only clearing the shape does.
 class CPlacedCrosses : public CGestureShape {
   public:
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;

@@ -12,8 +12,6 @@ namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("SpotShape", &MakeShape<CSpotShape>);
 
-constexpr float CaptionSize = 2.0F;
-
 PointF Offset(const PointF& point, float dx, float dy) {
     return PointF{point.x + dx, point.y + dy};
 }
@@ -51,13 +49,13 @@ bool CSpotShape::Covers(const PointF& press) const {
     }
     const double dx = static_cast<double>(press.x) - spot[0].x;
     const double dy = static_cast<double>(press.y) - spot[0].y;
-    return TruncateToInt(dx * dx + dy * dy) <= static_cast<double>(radius) * radius;
+    return dx * dx + dy * dy < static_cast<double>(radius) * radius + 1.0; // whole pixels decide
 }
 
 /// The click alone places the spot: nothing follows the mouse, and nothing is reported.
 void CSpotShape::StartDrawing(const PointF& press) {
-    if (AcceptsPoint(press)) {
-        AppendPoint(press);
+    if (AcceptsPoint(press) && state == Waiting) {
+        ReplacePoints({press});
         state = Complete;
         Capture(true);
     }
@@ -71,7 +69,8 @@ void CSpotShape::StartEditing(const PointF& press, int hitLevel) {
 }
 
 bool CSpotShape::OnMouseMove(const PointF& position) {
-    return state != Moving || FollowMouse(ClampToView(anchorPoint, position));
+    const PointF clamped = ClampToView(anchorPoint, position);
+    return state != Moving || FollowMouse(clamped);
 }
 
 bool CSpotShape::OnButtonUp(const PointF& /*position*/, const ContainerMouseEvent& /*event*/) {
@@ -128,11 +127,8 @@ bool CSpotShape::LoadSpot(const char* shapeData) {
 
 /// The radius is not written: it is the host's choice of look, not part of the place.
 bool CSpotShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const Points spot = CopyPoints();
-    if (buffer == nullptr || spot.empty()) {
-        return false;
-    }
-    return CopyTextUncounted(WriteJson(WritePoints(name, spot, KnownViewSize())), buffer, size);
+    const auto [spot, view] = CopyFitted();
+    return !spot.empty() && CopyTextUncounted(PointsText(name, spot, view), buffer, size);
 }
 
 void CSpotShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
@@ -154,7 +150,7 @@ void CSpotShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
 /// To the right of the circle and above its middle, and on the other side of the circle where there is no room.
 void CSpotShape::DrawCaption(const ShapeLook& look, IContainerGraphics& surface) const {
     const float r = static_cast<float>(radius);
-    const TextStyle style = look.Text(look.Colour(), CaptionSize);
+    const TextStyle style = look.Text(look.Colour(), FigureCaptionSize);
     const float width = surface.MeasureText(style, look.caption.c_str());
     const float height = surface.MeasureTextHeight(style, look.caption.c_str());
     PointF at = Offset(look.points[0], r, -r);
