@@ -211,6 +211,7 @@ TEST(Threads, APaintAndOtherCallsMayRunBesideTheMouse) {
     caller.join();
     EXPECT_GT(drawn, 0U);
     host.container.setTip(TheView, "");
+    host.container.selectShape(resident);
     EXPECT_EQ(host.Paint().size(), 6U) << "the resident with its handles, alone";
 }
 

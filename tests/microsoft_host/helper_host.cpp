@@ -1,0 +1,120 @@
+#include "support.h"
+
+#include <rulecanvas/host.hpp>
+
+namespace rulecanvas {
+
+extern "C" void DrawByTable(void* surface);
+
+namespace {
+
+constexpr ViewID View = 3;
+
+ShapeID Add(Container& container, const char* type, const char* configuration, const char* option,
+            const char* caption) {
+    ShapeSettings settings;
+    settings.view = View;
+    settings.type = type;
+    settings.label = "label";
+    settings.name = "zone";
+    settings.configuration = configuration;
+    settings.option = option;
+    const ShapeID shape = container.addShape(settings);
+    container.setCaption(shape, caption);
+    return shape;
+}
+
+void Drag(Container& container, const PointF& from, const PointF& to) {
+    container.sendMouse(MouseCode::leftDown, View, from.x, from.y);
+    container.sendMouse(MouseCode::moved, View, to.x, to.y);
+    container.sendMouse(MouseCode::leftUp, View, to.x, to.y);
+}
+
+void CheckSurface() {
+    Canvas canvas;
+    DrawByTable(static_cast<IContainerGraphics*>(&canvas));
+    ExpectCalls("a surface has its operations at their places",
+                "line (1,2)-(3,4) width 1 6,7,8@5 pen 2\n"
+                "at (1,2) text 'text' size 13 10,11,12@9 in face\n"
+                "disc (1,2)-(3,4) width 3 6,7,8@5 pen 0\n"
+                "outline (1,2)-(3,4) width 3 10,11,12@9 pen 0\n"
+                "ellipse (1,2)-(3,4) width 4 6,7,8@5 pen 0\n"
+                "rect (1,2)-(3,4) width 5 6,7,8@5 pen 6\n"
+                "width of 'w' size 13 10,11,12@9 in face\n"
+                "height of 'h' size 13 10,11,12@9 in face\n"
+                "caption 'caption' of 1 points in 14,15,16,17\n"
+                "points (41.5,12.5)-(41.5,12.5) width 0 6,7,8@5 pen 0\n"
+                "layer\nlayer at 18,19\nlayer of 20x21\nfill (1,2)-(3,4) width 0 6,7,8@5 pen 0\n");
+}
+
+/// Figures that together use all drawing operations.
+void CheckDrawing(Container& container) {
+    Add(container, "LineShape", "{\"zone\":[[0,0],[4096,8191]]}", "", "line");
+    Add(container, "SpotShape", "{\"zone\":[[8191,8191]]}", "", "ring");
+    Add(container, "SpotShape", "{\"zone\":[[0,0]],\"radius\":8}", "solid", "disc");
+    const char* const mosaic = "{\"mosaic\":{\"enable\":true,\"size\":50}}";
+    container.selectShape(Add(container, "Rect", "{\"zone\":[[1024,2048],[2048,4096]]}", mosaic, "box"), false);
+    container.setTip(View, "tip");
+    Canvas canvas;
+    container.paint(View, canvas);
+    ExpectCalls("all drawing operations arrive, floats and records come through",
+                "width of 'tip' size 0 255,255,0@1 in STHeitiSC-Light\n"
+                "at (179.25,150) text 'tip' size 0 255,255,0@1 in STHeitiSC-Light\n"
+                "line (0,0)-(200,300) width 2 255,255,0@1 pen 0\n"
+                "caption 'line' of 2 points in 0,0,400,300\n"
+                "points (0,0)-(200,300) width 0 255,255,0@1 pen 0\n"
+                "rect (-3,-3)-(3,3) width 2 255,255,0@1 pen 0\n"
+                "rect (197,297)-(203,303) width 2 255,255,0@1 pen 0\n"
+                "ellipse (395,295)-(405,305) width 2 255,255,0@1 pen 0\n"
+                "width of 'ring' size 2 255,255,0@1 in MS Sans Serif\n"
+                "height of 'ring' size 2 255,255,0@1 in MS Sans Serif\n"
+                "at (352.5,277.5) text 'ring' size 2 255,255,0@1 in MS Sans Serif\n"
+                "disc (-8,-8)-(8,8) width 2 255,255,0@1 pen 0\n"
+                "outline (-8,-8)-(8,8) width 2 255,255,0@1 pen 0\n"
+                "width of 'disc' size 2 255,255,0@1 in MS Sans Serif\n"
+                "height of 'disc' size 2 255,255,0@1 in MS Sans Serif\n"
+                "at (8,-1.75) text 'disc' size 2 255,255,0@1 in MS Sans Serif\n"
+                "at (50,75) text 'box' size 2 0,0,255@1 in MS Sans Serif\n"
+                "rect (50,75)-(100,150) width 2 0,0,255@1 pen 0\n"
+                "layer\n"
+                "layer of 50x75\n"
+                "fill (0,0)-(50,50) width 0 0,0,0@128 pen 0\n"
+                "fill (0,50)-(50,75) width 0 255,255,255@128 pen 0\n"
+                "layer at 50,75\n");
+}
+
+} // namespace
+
+void RunHelperHost() {
+    CheckSurface();
+    HostObject host([] { Write("redraw\n"); }, [](uint32_t value) { Write("hint %u\n", value); });
+    Container made(&host);
+    made.onNotify([](const char* text) { Write("notify %s", text); });
+    made.onClientRect([](ViewID) { return ClientRect{0, 0, 400, 300}; });
+    made.onCapture([](bool take) { Write("capture %d\n", take); });
+    Container container(static_cast<Container&&>(made));
+    Expect("a container moves, the one it came from is empty", container && !made && container.enable());
+
+    const ShapeID shape = Add(container, "Rect", "", "", "");
+    Drag(container, {10, 20}, {110, 70});
+    container.sendMouse(MouseCode::leftDown, View, 50, 50);
+    container.sendMouse(MouseCode::cursorQuery, View, 50, 50);
+    ExpectCalls("a rectangle is drawn and grabbed",
+                "notify {\"EventName\":\"label\",\"EventParam\":{\"ShapeID\":%u.0,\"ShapeName\":\"\"}}\n"
+                "capture 1\nredraw\ncapture 0\nnotify {\"EventName\":\"label\",\"EventParam\":{\"PreShapeState\":2,"
+                "\"ShapeID\":%u.0,\"ShapeName\":\"zone\",\"ShapeState\":3}}\n"
+                "notify {\"EventName\":\"label\",\"EventParam\":{\"ShapeID\":%u.0,\"ShapeName\":\"zone\"}}\n"
+                "capture 1\nhint 4\n",
+                shape, shape, shape);
+    const Text configuration = container.configuration(shape);
+    Expect("the configuration is read", strcmp(configuration.c_str(), "{\"zone\":[[205,546],[2253,1911]]}\n") == 0);
+    container.onNotify([&container](const char*) { container.deleteAllShapes(); });
+    container.sendMouse(MouseCode::leftUp, View, 50, 50);
+    Expect("a callback deletes the shape that speaks", strcmp(allShapeStates().c_str(), "null") == 0);
+    container.ignoreNotifications();
+    CheckDrawing(container);
+    container.deleteAllShapes();
+    ExpectCalls("spots give the mouse back when they end", "capture 0\ncapture 0\n");
+}
+
+} // namespace rulecanvas
