@@ -122,7 +122,8 @@ TEST(Paths, AreReshapedMovedDeletedAndGivenVertices) {
         {"BrokenLine", R"({"CanMove":false})", Hook, "press 150 102 move 140 92 release 9 9", Moved, Hook},
         {"BrokenLine", R"({"CanAdjust":false})", Hook, "click 150 102 click 200 100", {}, Hook},
         {"BrokenLine", "", Hook, "right 150 100", {}, Hook},
-        {"BrokenLine", "EnableRBtnDelete", Hook, "right 250 150 right 180 120", Removed, ""},
+        {"BrokenLine", "EnableRBtnDelete", Hook, "right 148 152", {}, Hook}, // beside the edge that would close it
+        {"BrokenLine", "EnableRBtnDelete", Hook, "right 180 120", Removed, ""},
         {"BrokenLine", "EnableRBtnDelete", Hook, "right 150 98", Removed, ""},
 
         {"VirablePolygon", "", Hook, "right 200 150 right 150 100", {}, "100,100 200,100 200,150 200,200"},

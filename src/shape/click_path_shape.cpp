@@ -107,7 +107,6 @@ void CClickPathShape::ContinueDrawing(const PointF& press) {
     if (!added) {
         return;
     }
-    Disturb();
     SetAnchorPoint(press);
     if (isLast) {
         FinishGesture();

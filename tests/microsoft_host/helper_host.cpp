@@ -111,6 +111,7 @@ void RunHelperHost() {
     container.onNotify([&container](const char*) { container.deleteAllShapes(); });
     container.sendMouse(MouseCode::leftUp, View, 50, 50);
     Expect("a callback deletes the shape that speaks", strcmp(allShapeStates().c_str(), "null") == 0);
+    ExpectCalls("it gives the mouse back", "capture 0\n");
     container.ignoreNotifications();
     CheckDrawing(container);
     container.deleteAllShapes();
