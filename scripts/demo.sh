@@ -118,12 +118,13 @@ rule_editor() {
 }
 
 play_scripts() {
-    local list=("$scripts"/*.rules) script name done=0 failed=0
-    [[ -z $video ]] || list=("$scripts"/on_video/*.rules)
+    local list=("$scripts"/on_video/*.rules) script name done=0 failed=0
+    [[ -n $video ]] || list=("$scripts"/*.rules "${list[@]}")
     for script in "${list[@]}"; do
         name=$(basename "$script" .rules)
         done=$((done + 1))
         say "      [$done/${#list[@]}] $name"
+        rm -rf "${work:?}/$name"
         mkdir -p "$work/$name"
         rule_editor --script "$(windows_path "$script")" --snapshot "$(windows_path "$work/$name")" || {
             failed=$((failed + 1))

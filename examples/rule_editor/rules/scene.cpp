@@ -208,10 +208,7 @@ bool Scene::wouldGrab(float x, float y) {
 }
 
 void Scene::onCapture(bool take) {
-    if (take != m_capturing) {
-        m_host.log(take ? "mouse captured" : "mouse released");
-    }
-    m_capturing = take;
+    m_host.log(take ? "mouse captured" : "mouse released");
     m_host.captureMouse(take);
 }
 

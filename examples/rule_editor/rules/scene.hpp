@@ -84,7 +84,6 @@ class Scene {
 
     SceneHost m_host;
     bool m_hinted = false;
-    bool m_capturing = false;
     rulecanvas::HostObject m_hostObject;
     rulecanvas::Container m_container;
     std::vector<SceneEntry> m_entries;
