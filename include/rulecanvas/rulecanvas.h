@@ -355,8 +355,9 @@ RULECANVAS_API Bool32 RULECANVAS_CALL EnableVideoAnalyseShape(ContainerHandle co
 /* Throws the figure away, so that the user draws it again; an oval stays as it is. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL RedrawVideoAnalyseShape(ContainerHandle container, ShapeID shape);
 
-/* Sets the source of a view's client rectangle. It is asked on the mouse and on the paint thread. Unset, every
- * rectangle is all zeros. 1; 0 when unknown. A null pointer changes nothing and returns 0. */
+/* Sets the source of a view's client rectangle, whose left and top must be 0: figures are refitted by its right and
+ * bottom. It is asked on the mouse and on the paint thread. Unset, every rectangle is all zeros. 1; 0 when unknown. A null
+ * pointer changes nothing and returns 0. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetGetContainerRectClientDelegate(ContainerHandle container,
                                                                         const GetContainerRectClientDelegate* delegate);
 

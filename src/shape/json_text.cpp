@@ -25,10 +25,18 @@ Json::CharReaderBuilder MakeReaderBuilder() {
     return builder;
 }
 
+Json::StreamWriterBuilder MakeWriterBuilder() {
+    Json::StreamWriterBuilder builder;
+    builder["indentation"] = "";
+    builder["emitUTF8"] = true;
+    return builder;
+}
+
 } // namespace
 
 bool ParseJson(const char* text, Json::Value& root) {
-    const std::unique_ptr<Json::CharReader> reader(MakeReaderBuilder().newCharReader());
+    static const Json::CharReaderBuilder builder = MakeReaderBuilder();
+    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
     platform::LockGuard guard(ParserMutex());
     Json::Value parsed;
     try {
@@ -43,9 +51,7 @@ bool ParseJson(const char* text, Json::Value& root) {
 }
 
 std::string WriteJson(const Json::Value& value) {
-    Json::StreamWriterBuilder builder;
-    builder["indentation"] = "";
-    builder["emitUTF8"] = true;
+    static const Json::StreamWriterBuilder builder = MakeWriterBuilder();
     return Json::writeString(builder, value) + "\n";
 }
 

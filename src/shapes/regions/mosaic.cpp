@@ -23,12 +23,13 @@ void FillRow(int top, int bottom, int width, int cellSize, bool black, IContaine
 
 } // namespace
 
-void DrawMosaic(const PointF& topLeft, const PointF& bottomRight, int cellSize, IContainerGraphics& surface) {
+void DrawMosaic(const PointF& topLeft, const PointF& bottomRight, int cellSize, const ViewSize& view,
+                IContainerGraphics& surface) {
     if (cellSize <= 0) {
         return;
     }
-    const int width = TruncateToInt(static_cast<double>(bottomRight.x) - topLeft.x);
-    const int height = TruncateToInt(static_cast<double>(bottomRight.y) - topLeft.y);
+    const int width = std::min(TruncateToInt(static_cast<double>(bottomRight.x) - topLeft.x), view.width);
+    const int height = std::min(TruncateToInt(static_cast<double>(bottomRight.y) - topLeft.y), view.height);
     surface.BeginLayer();
     surface.SetLayerSize(width, height);
     bool black = true;

@@ -236,7 +236,7 @@ void CRectangleShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
         surface.DrawRectangle(&look.points[0], &look.points[2], OutlineThickness(look), &colour, penStyle);
     }
     if (mosaicEnable) {
-        DrawMosaic(look.points[0], look.points[2], mosaicSize, surface);
+        DrawMosaic(look.points[0], look.points[2], mosaicSize, look.size, surface);
     }
     if (look.handles && !textOnly) {
         DrawAdjustBoxes(look.points, surface, colour);
