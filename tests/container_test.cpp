@@ -239,6 +239,22 @@ TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
 }
 
+TEST(Container, CollapsesNoFigureWhileTheViewHasNoSize) {
+    for (const char* type : {"Rect", "LineShape", "XLineShape", "BrokenLine", "SpotShape", "CrossShape"}) {
+        ScenarioHost host;
+        const ShapeID shape = host.Add(type, Square);
+        const std::string before = host.Config(shape);
+        host.Press(98, 73);
+        host.Resize(0, 0);
+        host.Move(300, 300);
+        host.Paint();
+        host.Resize(800, 600);
+        EXPECT_EQ(host.Config(shape), before) << type;
+        host.Move(120, 90);
+        EXPECT_NE(host.Config(shape), before) << type;
+    }
+}
+
 TEST(Container, DrawsInTheOrderOfCreation) {
     ScenarioHost host;
     for (const char* caption : {"1", "2", "3", "4"}) {
