@@ -1,0 +1,343 @@
+// Figures of one gesture: crosses, spots, ovals and pixel counts.
+
+#include "support/scenario_host.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+namespace rulecanvas::test {
+namespace {
+
+/// Pixels and grid are the same number in a view of this size.
+constexpr int GridView = 8191;
+
+constexpr const char* Oval = R"({"OvalShape":[[100,100],[200,180]]})";
+
+using Row = std::array<const char*, 3>;
+
+TEST(Cross, IsPlacedByOneClickEach) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("CrossShape", "", "3");
+    host.Press(9000, 10); // outside the view
+    host.Press(100, 100);
+    host.Move(110, -20); // it stays in the view until it is let go
+    EXPECT_EQ(host.Paint(), (Lines{"line (104,0)-(115,0) w2 yellow", "line (110,-6)-(110,5) w2 yellow"}));
+    host.Release(110, -20);
+    host.Move(300, 300);
+    host.Click(200, 100);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "redraw", "capture on"})) << "the capture is kept";
+    EXPECT_EQ(host.Config(shape), "") << "one is missing";
+    host.Click(300.9F, 100);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 2>3"}));
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[110,-19],[200,100],[300,100]]})");
+    host.container.setPointLimits(shape, 2, 0);
+    EXPECT_EQ(host.Config(shape), "") << "not as many as the host now wants";
+}
+
+TEST(Cross, IsDraggedByItsBoxOrFromAnywhereWhenItIsAlone) {
+    ScenarioHost host(GridView, GridView);
+    ShapeID shape = host.Add("CrossShape", R"({"rule":[[100,100]]})");
+    host.Press(4000, 9000); // outside the view
+    host.Press(400, 300);
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[400,300]]})") << "jumps to the press";
+    host.Move(410.5F, 310);
+    host.Move(-1, 310);
+    host.Release(500, 500);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 5>3"}));
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[410,310]]})") << "neither a move outside nor the release counts";
+
+    host.container.deleteShape(shape);
+    shape = host.Add("CrossShape", R"({"rule":[[100,100],[108,100],[300,300]]})");
+    host.Drag({94, 100}, {50, 50});   // 6 pixels beside the first
+    host.Drag({105, 95}, {50, 50});   // in the boxes of the first and the second
+    host.Drag({305.5F, 300}, {9, 9}); // beside the third
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[50,50],[108,100],[300,300]]})");
+}
+
+TEST(Cross, ReadsHowManyThereAre) {
+    for (const auto& [config, word, crosses] :
+         {Row{R"({"rule":[[1,2],null]})", "7", "[1,2],[0,0]"}, Row{R"({"rule":[]})", "", ""},
+          Row{"{}", "2", "[0,0],[0,0]"}, Row{"{}", "-5", "[0,0]"}, Row{"{}", "2000000000", "[0,0]"}}) {
+        ScenarioHost host(GridView, GridView);
+        const std::string expected = std::string(R"({"rule":[)") + crosses + "]}";
+        EXPECT_EQ(host.Config(host.Add("CrossShape", config, word)), expected) << config << word;
+    }
+    EXPECT_EQ(ScenarioHost().Add("CrossShape", "{"), 0U);
+}
+
+TEST(BigCross, SpansThePictureAtTwoPlacesAndIsWrittenAsBands) {
+    const std::string bands = R"({"rule":[[0,2999,8191,3001],[3999,0,4001,8191],[0,199,8191,201],[99,0,101,8191]]})";
+    ScenarioHost host(GridView, GridView);
+    ShapeID shape = host.Add("BigCrossShape");
+    host.container.setPointLimits(shape, 5, 0); // two it stays
+    host.Click(4000, 3000);
+    host.Click(100, 200);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture on", "state rule 2>3"}));
+    EXPECT_EQ(host.Config(shape), bands);
+    host.container.deleteShape(shape);
+    shape = host.Add("BigCrossShape", bands);
+    host.Drag({300, 300}, {400, 400}); // no cross-hair there
+    host.Press(4005, 2995);            // which alone moves nothing
+    EXPECT_EQ(host.Paint(),
+              (Lines{"line (0,3000)-(8191,3000) w2 yellow", "line (4000,0)-(4000,8191) w2 yellow",
+                     "fill-ellipse (3995,2995)-(4005,3005) w2 yellow", "line (0,200)-(8191,200) w2 yellow",
+                     "line (100,0)-(100,8191) w2 yellow", "fill-ellipse (95,195)-(105,205) w2 yellow"}));
+    host.Move(9000, 2000);
+    EXPECT_EQ(host.Paint()[2], "fill-ellipse (8186,1995)-(8196,2005) w2 yellow") << "held inside the view";
+    host.Release(9000, 2000);
+    EXPECT_EQ(host.Paint()[2], "fill-ellipse (8995,1995)-(9005,2005) w2 yellow") << "but let go where the mouse is";
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 5>3"}));
+
+    EXPECT_EQ(host.Add("BigCrossShape", R"({"rule":[[0,1,2,3],[0,1,2,3],[0,1,2,3]]})"), 0U);
+    EXPECT_NE(host.Add("BigCrossShape", R"({"rule":[[0,2147483647],[2147483647],[0,0],[0]]})"), 0U);
+}
+
+TEST(Markers, KeepTheirCaptionInThePicture) {
+    using Placing = std::tuple<const char*, PointF, const char*>;
+    for (const auto& [type, press, text] : {Placing{"CrossShape", {772.9F, 588}, "text (772,588) \"gate\" size 24 "},
+                                            Placing{"CrossShape", {773, 589}, "text (745,577) \"gate\" size 24 "},
+                                            Placing{"SpotShape", {100, 11}, "text (105,6) \"gate\" size 2 "},
+                                            Placing{"SpotShape", {100, 10}, "text (105,11) \"gate\" size 2 "},
+                                            Placing{"SpotShape", {767, 593}, "text (772,588) \"gate\" size 2 "},
+                                            Placing{"SpotShape", {768, 594}, "text (734,572) \"gate\" size 2 "}}) {
+        ScenarioHost host;
+        host.container.setCaption(host.Add(type), "gate"); // 28 x 12
+        host.Click(press.x, press.y);
+        EXPECT_EQ(host.Paint().back(), text + std::string("yellow"));
+    }
+}
+
+TEST(Markers, CopyTheirConfigurationIntoABufferOfItsLength) {
+    for (const char* type : {"CrossShape", "SpotShape"}) {
+        ScenarioHost host(GridView, GridView);
+        const ShapeID shape = host.Add(type, R"({"rule":[[1,2]]})");
+        char buffer[] = "##################"; // the text has 17 characters
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer, 16), 0U);
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer, 17), 1U);
+        EXPECT_STREQ(buffer, "{\"rule\":[[1,2]]}\n#") << "without the terminating zero";
+    }
+}
+
+TEST(Figures, LeaveNoListenerWhenTheyAreDeletedInAGesture) {
+    for (const char* type : {"CrossShape", "BigCrossShape", "SpotShape", "OvalShape", "XLineShape"}) {
+        ScenarioHost host;
+        const ShapeID shape = host.Add(type);
+        host.Click(100, 100);
+        host.Press(100, 100);
+        host.TakeLog();
+        host.container.deleteShape(shape);
+        host.Send(RULECANVAS_MOUSE_MOVED_EVENT, 110, 110);
+        host.Release(110, 110);
+        // A spot clears itself on its way out, too.
+        EXPECT_EQ(host.TakeLog(), Lines(*type == 'S' ? 2 : 1, "capture off")) << type;
+        EXPECT_EQ(host.Paint(), Lines{}) << type;
+    }
+}
+
+TEST(Spot, IsPlacedByAClickAndDragged) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("SpotShape");
+    host.Click(-1, 100); // outside the view
+    host.Press(100, 100);
+    host.Move(150, 150);
+    host.Release(150, 150);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw"})) << "nothing is reported, nothing follows the mouse";
+    host.Press(103, 104); // 5 pixels from the centre
+    host.Move(113.7F, 104);
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[110,100]]})") << "by whole pixels";
+    host.Move(2, 104);
+    host.Move(115, 124);
+    host.Release(300, 300);
+    EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 4>3", "capture off"}));
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[112,120]]})") << "a step out of the view is refused";
+
+    host.Click(116, 124); // beside it
+    host.container.setTip(TheView, "tip");
+    host.Click(300, 300);
+    EXPECT_EQ(host.Paint()[0], "ellipse (107,115)-(117,125) w2 blue") << "an unselected spot answers: no tip is left";
+    host.container.selectShape(host.Add("Rect"), false);
+    host.Press(112, 120);
+    EXPECT_EQ(host.TakeLog(), Lines{"capture on"}) << "the rectangle takes the press";
+    EXPECT_EQ(host.container.selectedShape(), shape) << "but the spot that was hit is selected";
+}
+
+TEST(Spot, IsAnOutlineOrSolidOfItsRadius) {
+    for (const auto& [config, word, drawn] :
+         {Row{R"({"rule":[[40,50],[1,1]]})", "solid,", "ellipse (35,45)-(45,55) w2 yellow"},
+          Row{R"({"rule":[[40,50]],"radius":8})", "solid", "fill-ellipse (32,42)-(48,58) w2 yellow"},
+          Row{R"({"rule":[[40,50]],"radius":8.0})", "", "ellipse (35,45)-(45,55) w2 yellow"}}) {
+        ScenarioHost host(GridView, GridView);
+        const ShapeID shape = host.Add("SpotShape", config, word);
+        EXPECT_EQ(host.Paint()[0], drawn);
+        EXPECT_EQ(host.Config(shape), R"({"rule":[[40,50]]})") << "the radius is not written back";
+    }
+    ScenarioHost host;
+    EXPECT_EQ(host.Add("SpotShape", "{}"), 0U);
+    EXPECT_NE(host.Add("SpotShape", R"({"rule":[]})"), 0U);
+    host.Click(10, 10);
+    EXPECT_EQ(host.Paint(), Lines{}) << "placed, but never drawn";
+}
+
+TEST(Oval, IsDrawnByDraggingAndKeepsTheCapture) {
+    ScenarioHost host;
+    const ShapeID shape = host.Add("OvalShape");
+    EXPECT_EQ(host.Paint(), Lines{"ellipse (0,0)-(0,0) w2 yellow"}) << "a waiting oval draws its empty rubber band";
+    host.Press(200.5F, 150);
+    EXPECT_TRUE(host.container.redrawShape(shape)) << "an oval is not restarted: the drag goes on";
+    host.Move(90, 900);
+    EXPECT_EQ(host.Paint(), Lines{"ellipse (200.5,150)-(90,900) w2 yellow"}) << "the rubber band is not clamped";
+    host.Release(90, 900);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "state rule 2>3", "capture on"}));
+    EXPECT_EQ(host.Paint(), (Lines{"ellipse (90,150)-(200,600) w2 yellow", "text (90,150) \"\" size 2 yellow",
+                                   "rect (87,147)-(93,153) w2 yellow", "rect (142,147)-(148,153) w2 yellow",
+                                   "rect (197,147)-(203,153) w2 yellow", "rect (197,372)-(203,378) w2 yellow",
+                                   "rect (197,597)-(203,603) w2 yellow", "rect (142,597)-(148,603) w2 yellow",
+                                   "rect (87,597)-(93,603) w2 yellow", "rect (87,372)-(93,378) w2 yellow"}));
+}
+
+TEST(Oval, GoesOnFromAClick) {
+    ScenarioHost host(GridView, GridView);
+    ShapeID shape = host.Add("OvalShape");
+    host.Click(100, 100);
+    host.Move(101, 150); // the button is up, the oval listens
+    host.Release(101, 150);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture on", "state rule 2>3", "capture on"}));
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[100,100],[101,150]]})") << "no oval is too narrow to be drawn";
+
+    host.container.deleteShape(shape);
+    shape = host.Add("OvalShape");
+    host.Click(10, 10);
+    host.Release(20, 30);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 1>3", "capture on"})) << "without a move between";
+    host.container.showShape(shape, false); // a drag with an extent shows nevertheless
+    EXPECT_EQ(host.Paint(TheView + 1)[0], "ellipse (10,10)-(20,30) w2 yellow") << "in every view";
+    host.Drag({15, 20}, {25, 30});
+    EXPECT_EQ(host.Paint(), Lines{}) << "a move ends at its anchor";
+}
+
+TEST(Oval, IsResizedByEachOfItsEightHandles) {
+    using Drag = std::tuple<PointF, PointF, const char*>;
+    for (const auto& [grab, drop, corners] :
+         {Drag{{104, 96}, {50, 60}, "[50,60],[200,180]"}, Drag{{150, 100}, {190, 90}, "[100,90],[200,180]"},
+          Drag{{200, 100}, {260, 90}, "[100,90],[260,180]"}, Drag{{200, 140}, {260, 60}, "[100,100],[260,180]"},
+          Drag{{200, 180}, {9000, 300}, "[100,100],[8191,300]"}, Drag{{150, 180}, {90, 300}, "[100,100],[200,300]"},
+          Drag{{100, 180}, {-50, 210}, "[0,100],[200,210]"}, Drag{{100, 140}, {150, 60}, "[150,100],[200,180]"},
+          Drag{{200, 180}, {103.9F, 300}, "[100,100],[200,180]"}, Drag{{200, 180}, {300, 103}, "[100,100],[200,180]"},
+          Drag{{200, 180}, {104, 96}, "[100,96],[104,100]"}}) {
+        ScenarioHost host(GridView, GridView);
+        host.Add("Rect", R"({"rule":[[0,0],[8191,8191]]})"); // whose inside claims less
+        const ShapeID shape = host.Add("OvalShape", Oval);
+        host.Drag(grab, drop);
+        EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 5>3", "capture off"}));
+        EXPECT_EQ(host.Config(shape), std::string(R"({"rule":[)") + corners + "]}") << Written(grab);
+    }
+}
+
+TEST(Oval, IsMovedByTheInsideOfItsRectangle) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("OvalShape", Oval);
+    host.Press(106, 106); // outside the ellipse
+    host.Move(116.5F, 126.5F);
+    host.Move(5, 126.5F); // a step out of the view is refused
+    host.Release(5, 126.5F);
+    EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 4>3", "capture off"}));
+    host.Click(108, 140); // on the edge, but outside
+    host.container.showHandles(shape);
+    host.Click(300, 300); // also hides the handles of an unselected oval
+    EXPECT_EQ(host.Paint(),
+              (Lines{"ellipse (110.5,120.5)-(210.5,200.5) w2 blue", "text (110.5,120.5) \"\" size 2 blue"}));
+    EXPECT_EQ(host.TakeLog(), Lines{});
+}
+
+TEST(Oval, ReadsOneKeyAndWritesAnother) {
+    using Texts = std::pair<const char*, const char*>;
+    for (const auto& [config, readBack] :
+         {Texts{R"({"OvalShape":[[300,200],[100,9999]]})", R"({"rule":[[300,200],[100,9999]]})"},
+          Texts{R"({"OvalShape":[null,[5,6]]})", R"({"rule":[[0,0],[5,6]]})"}}) {
+        ScenarioHost host(GridView, GridView);
+        EXPECT_EQ(host.Config(host.Add("OvalShape", config)), readBack);
+    }
+    ScenarioHost host(GridView, GridView);
+    for (const char* refused : {R"({"rule":[[100,100],[200,180]]})", R"({"OvalShape":[[100,100]]})", "["}) {
+        EXPECT_EQ(host.Add("OvalShape", refused), 0U) << refused;
+    }
+    EXPECT_EQ(host.Config(host.Add("OvalShape", R"({"OvalShape":[[1,2],null]})", R"({"LineThickness":5})")), "");
+    host.Click(100, 100);
+    EXPECT_EQ(host.TakeLog(), Lines{}) << "half an oval is busy and cannot be drawn";
+    EXPECT_EQ(host.Paint(), Lines{"ellipse (0,0)-(0,0) w2 yellow"}) << "and no oval reads a style";
+}
+
+TEST(PixelCount, IsPlacedInTheMiddleByTheFirstPaint) {
+    ScenarioHost host;
+    host.container.setVideoSize(640, 480);
+    const ShapeID shape = host.Add("PixelCountShape", R"({"rule":[320,240]})", R"({"FontSize":9,"LineThickness":7})");
+    EXPECT_EQ(host.Paint(TheView + 1), Lines{});
+    EXPECT_EQ(host.Config(shape), "") << "no corners yet";
+    host.container.selectShape(shape, false); // and yet in the selected colour
+    host.container.showHandles(shape);
+    EXPECT_EQ(host.Paint(),
+              (Lines{"text (385,298) \"320*240\" size 9 yellow", "rect (200,150)-(600,450) w1 yellow dashed",
+                     "rect (197,147)-(203,153) w2 yellow", "rect (597,147)-(603,153) w2 yellow",
+                     "rect (597,447)-(603,453) w2 yellow", "rect (197,447)-(203,453) w2 yellow"}));
+    host.Resize(801, 601); // halves are whole numbers
+    host.Add("PixelCountShape", R"({"rule":[4,1]})");
+    const Lines drawn = host.Paint();
+    EXPECT_EQ(std::count(drawn.begin(), drawn.end(), "rect (397,298)-(402,302) w1 yellow dashed"), 1) << "can be seen";
+}
+
+TEST(PixelCount, WaitsUntilVideoAndViewAreKnownAndKeepsTheSizeOfTheVideo) {
+    ScenarioHost host;
+    for (const bool videoFirst : {true, false}) {
+        host.container.deleteAllShapes();
+        host.container.setVideoSize(640, videoFirst ? 480 : 0);
+        host.Resize(videoFirst ? 0 : 800, 600);
+        host.container.showHandles(host.Add("PixelCountShape", R"({"rule":[320,240]})"), false);
+        EXPECT_EQ(host.Paint(), Lines{});
+        host.container.setVideoSize(640, 480);
+        host.Resize(800, 600);
+        EXPECT_EQ(host.Paint()[0], "text (385,298) \"320*240\" size 0 yellow");
+    }
+    host.container.setVideoSize(64, 48);
+    host.Press(600, 450);
+    host.Move(400, 300);
+    EXPECT_EQ(host.Paint()[0], "text (285,223) \"160*120\" size 0 yellow");
+}
+
+TEST(PixelCount, IsMeasuredByThePaintsOfADragButNotOfAMove) {
+    ScenarioHost host;
+    host.container.setVideoSize(640, 480);
+    const ShapeID shape = host.Add("PixelCountShape");
+    host.Press(100, 100);
+    host.Move(105, 100); // as small as the user likes
+    EXPECT_EQ(host.Paint()[0], "text (87.5,98) \"4*0\" size 0 yellow");
+    host.Move(300, 300);
+    host.Release(300, 300);
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "redraw", "capture off", "state rule 2>3"}));
+    EXPECT_EQ(host.Paint()[0], "text (185,198) \"4*0\" size 0 yellow") << "no paint of the drag saw the last step";
+    host.Press(300, 300);
+    host.Move(301, 300);
+    EXPECT_EQ(host.Paint()[0], "text (185.5,198) \"160*160\" size 0 yellow");
+    host.Release(301, 300);
+    host.Drag({200, 200}, {210, 200});
+    EXPECT_EQ(host.Config(shape), R"({"rule":[160,160]})");
+}
+
+TEST(PixelCount, RefusesWhatIsNoSizeReadsNoModeWordAndForgetsAPlaceWhenItIsDrawnAnew) {
+    ScenarioHost host;
+    host.container.setVideoSize(640, 480);
+    for (const char* refused : {R"({"rule":[320]})", "{", R"({"rule":[320,"a"]})"}) {
+        EXPECT_EQ(host.Add("PixelCountShape", refused), 0U) << refused;
+    }
+    for (const char* word : {"TextOnly", "EnableRBtnDelete"}) {
+        host.container.showHandles(host.Add("PixelCountShape", R"({"rule":[320,240]})", word), false);
+    }
+    host.container.redrawShape(host.Add("PixelCountShape", R"({"rule":[320,240]})"));
+    host.Paint();
+    host.RightPress(400, 300);
+    EXPECT_EQ(host.Paint().size(), 4U);
+}
+
+} // namespace
+} // namespace rulecanvas::test
