@@ -120,6 +120,18 @@ TEST(Markers, CopyTheirConfigurationIntoABufferOfItsLength) {
     }
 }
 
+TEST(Crosses, AreCompleteWhenTheMaximumIsLoweredBetweenTwoClicks) {
+    ScenarioHost host;
+    const ShapeID shape = host.Add("CrossShape", "", "3");
+    host.Click(100, 100);
+    host.Click(200, 100);
+    host.container.setPointLimits(shape, 2, 0);
+    host.TakeLog();
+    host.Click(300, 100);
+    EXPECT_EQ(host.TakeLog(), Lines{"state rule 2>3"});
+    EXPECT_NE(host.Config(shape), "");
+}
+
 TEST(Figures, LeaveNoListenerWhenTheyAreDeletedInAGesture) {
     for (const char* type : {"CrossShape", "BigCrossShape", "SpotShape", "OvalShape", "XLineShape"}) {
         ScenarioHost host;

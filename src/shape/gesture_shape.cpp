@@ -67,12 +67,13 @@ bool CGestureShape::MoveShape(float dx, float dy) {
 void CGestureShape::Dispose() {
     Disturb();
     UnregisterDraw();
-    if (InGesture()) {
+    const bool captured = InGesture() || (state == Drawing && PointCount() > 0);
+    Unsubscribe();
+    if (captured) {
         Capture(false);
     }
     AwaitPaint();
     ClearPoints();
-    Unsubscribe();
 }
 
 void CGestureShape::AwaitPaint() const {
@@ -102,18 +103,20 @@ void CGestureShape::BeginConfiguration(const char* shapeName) {
     selected = true;
 }
 
-bool CGestureShape::BeginGesture(ShapeState gestureState) {
+void CGestureShape::BeginGesture(ShapeState gestureState) {
     Disturb();
     Subscribe(); // first: a host may send events while it takes the capture
     state = gestureState;
-    return Capture(true);
+    Capture(true);
 }
 
-bool CGestureShape::Grab(ShapeState gestureState) {
+void CGestureShape::Grab(ShapeState gestureState) {
     adjustBoxShown = true;
     selected = true;
     state = gestureState; // first: a press that the host sends from inside must not grab once more
-    return NotifySelection() && BeginGesture(gestureState);
+    if (NotifySelection()) {
+        BeginGesture(gestureState);
+    }
 }
 
 bool CGestureShape::BecomeComplete() {

@@ -6,10 +6,10 @@ namespace rulecanvas {
 
 /// A shape that is drawn and edited with the mouse.
 ///
-/// A gesture begins with a press: the shape enters a state, takes the mouse capture and listens to moves and to the
-/// button's release. It ends with one of FinishGesture, ClearShape or Retire. The host hears of it through its
-/// callbacks, and may answer any of them by clearing, restarting or deleting the shape; every step that follows a
-/// callback therefore asks whether the shape is still where the step left it. The steps that can be overtaken so return
+/// A gesture begins with a press: the shape enters a state, listens to moves and to the button's release, and takes the
+/// mouse capture. It ends with one of EndGesture, ClearShape or Retire; crosses and ovals that were drawn only stop
+/// listening. The host hears of it through its callbacks, and may answer any of them by clearing, restarting or deleting
+/// the shape. A shape therefore takes its new state before it speaks, and the steps that the host can overtake return
 /// false.
 class CGestureShape : public CVideoAnalyseShape {
   public:
@@ -46,14 +46,14 @@ class CGestureShape : public CVideoAnalyseShape {
 
     /// Whether a gesture was begun and not ended yet.
     bool InGesture() const { return subscribed; }
-    bool BeginGesture(ShapeState gestureState);
+    void BeginGesture(ShapeState gestureState);
     /// Begins the drag of a finished shape: handles, selection and its notification, then the gesture.
-    bool Grab(ShapeState gestureState);
-    /// Reports that the shape is complete, and makes it so.
+    void Grab(ShapeState gestureState);
+    /// Makes the shape complete and reports it.
     bool BecomeComplete();
     /// Completes the shape and ends the gesture.
     bool FinishGesture();
-    /// Releases the capture and stops listening.
+    /// Stops listening and releases the capture.
     bool EndGesture();
 
     /// Stops every step that waits for an answer of the host: the shape is no longer where that step left it.
@@ -74,7 +74,7 @@ class CGestureShape : public CVideoAnalyseShape {
 
     /// A right press while the shape is drawn finishes it.
     void FinishByRightButton(int hitLevel);
-    /// A right press on a shape that allows it clears the shape, reports and takes state 0.
+    /// A right press on a shape that allows it takes the shape to state 0, clears it and reports that.
     void DeleteByRightButton(int hitLevel);
 
     /// The position in whole pixels, kept inside the view as seen from `anchor`.

@@ -119,9 +119,9 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     size_t PointCount() const;
     void ReplacePoints(Points newPoints);
     void AppendPoint(const PointF& point);
-    /// Runs `edit` on a copy of the points, without the lock, and takes the copy over when it returns true; from
-    /// the beginning when a refit changed the points meanwhile. False, with nothing changed: the edit refused, or the host
-    /// took the shape into another state.
+    /// Runs `edit` on a copy of the points, without the lock, and takes the copy over when it returns true; anew, a few
+    /// times, when a refit changed the points meanwhile. False, with nothing changed: the edit refused, the host took the
+    /// shape into another state, or the refits did not stop.
     template <class Edit>
     bool EditPoints(Edit edit);
     /// A consistent copy of all that drawing needs.

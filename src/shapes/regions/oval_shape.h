@@ -18,9 +18,9 @@ class COvalShape : public CGestureShape {
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
-    /// Forgets the figure alone: an oval is cleared only on its way out, which ends its gesture too.
     /// Appends the corners.
     void GetShapePoints(Points& out) const override;
+    /// Forgets the figure alone: an oval is cleared only on its way out, which ends its gesture too.
     void ClearShape() override;
     /// An oval stays as it is: to draw another one, the host makes a new shape.
     bool RestartDrawing() override;

@@ -49,14 +49,22 @@ void CPlacedCrosses::ContinueDrawing(const PointF& press) {
 }
 
 void CPlacedCrosses::PlaceCross(const PointF& press) {
+    if (!HasRoom() && !InGesture()) {
+        BecomeComplete(); // the host lowered the maximum between two clicks
+        return;
+    }
     const bool placed = EditPoints([&](Points& crosses) {
-        const bool room = crosses.empty() || static_cast<int>(crosses.size()) < Maximum();
         crosses.push_back(press);
-        return room && AcceptsPoint(press);
+        return HasRoom() && AcceptsPoint(press);
     });
     if (placed) {
         BeginGesture(Drawing);
     }
+}
+
+bool CPlacedCrosses::HasRoom() const {
+    const int count = static_cast<int>(PointCount());
+    return count == 0 || count < Maximum();
 }
 
 bool CPlacedCrosses::OnMouseMove(const PointF& position) {

@@ -10,7 +10,7 @@ namespace rulecanvas {
 ///
 /// The points are the crosses in placing order; `grabbedIndex` is the cross under the last press. Every click is a
 /// gesture of its own: the new cross follows the mouse until the button is released. Between two clicks the shape stays
-/// in the drawing state and listens to nothing. No gesture gives the mouse capture back; only clearing the shape does.
+/// in the drawing state and listens to nothing. No gesture gives the mouse capture back; clearing or ending the shape does.
 class CPlacedCrosses : public CGestureShape {
   public:
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
@@ -18,7 +18,7 @@ class CPlacedCrosses : public CGestureShape {
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
 
   protected:
-    /// How many crosses make the shape complete; 0 or less never do.
+    /// How many crosses make the shape complete; one does in any case.
     virtual int Maximum() const = 0;
     /// Index of the cross that a press on the complete shape hits, or -1.
     virtual int CrossAt(const PointF& press) const;
@@ -41,6 +41,7 @@ class CPlacedCrosses : public CGestureShape {
     size_t GrabbedCross() const { return static_cast<size_t>(grabbedIndex); }
 
   private:
+    bool HasRoom() const;
     void PlaceCross(const PointF& press);
     size_t LastCross() const { return PointCount() - 1; }
     bool LoadCrosses(const char* shapeData);
