@@ -15,10 +15,7 @@ void RULECANVAS_THISCALL ReportClientRect(void* /*target*/, ViewID /*view*/, Cli
 TEST(PathClass, ADragEndsInsideTheLimitRectangleOnly) {
     struct Case {
         const char* type;
-        PointF press;
-        PointF move;
-        PointF refused;
-        PointF accepted;
+        PointF press, move, refused, accepted;
     };
     // A polygon's move is judged by its vertices, shifted back by what the release lies beyond the last move.
     for (const Case& c : {Case{"Polygon", {200, 200}, {250, 250}, {301, 250}, {300, 250}},
@@ -29,7 +26,7 @@ TEST(PathClass, ADragEndsInsideTheLimitRectangleOnly) {
         container->Enable(true);
         container->CreateMainShape(1, "", c.type, "rule", R"({"rule":[[100,100],[200,100],[200,200]]})",
                                    "EnableRBtnDelete");
-        const ShapePtr shape = (*container->ShapesInOrder().begin());
+        const ShapePtr shape = *container->ShapesInOrder().begin();
         static_cast<CClickPathShape&>(*shape).SetLimitRectangle({100, 100, 300, 300});
         const auto send = [&](uint32_t code, const PointF& at) {
             container->OnMouseEvent({code, 1, 0, at.x, at.y, 0, 0});
