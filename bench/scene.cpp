@@ -60,8 +60,8 @@ Scene& Scene::Of(int kind, int count) {
 Scene::Scene(int kind, int count)
     : clientRect{0, 0, Width, Height}, firstCornerOfLast{}, type(Kinds.at(static_cast<size_t>(kind))),
       columns(static_cast<int>(std::ceil(std::sqrt(count)))) {
-    container.onClientRect([this](ViewID) { return clientRect; });
-    container.enable();
+    container.OnClientRect([this](ViewID) { return clientRect; });
+    container.Enable();
     shapes.reserve(static_cast<size_t>(count));
 
     const size_t bytesBefore = mallinfo2().uordblks;
@@ -73,7 +73,7 @@ Scene::Scene(int kind, int count)
     bytesPerShape = static_cast<double>(mallinfo2().uordblks - bytesBefore) / count;
 
     for (const ShapeID shape : shapes) {
-        container.selectShape(shape, false);
+        container.SelectShape(shape, false);
     }
     totalCount += count;
 }
@@ -91,7 +91,7 @@ ShapeID Scene::Add(int place) {
     settings.label = "bench";
     settings.name = "zone";
     settings.configuration = configuration.c_str();
-    return container.addShape(settings);
+    return container.AddShape(settings);
 }
 
 } // namespace rulecanvas::bench

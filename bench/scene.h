@@ -24,7 +24,7 @@ class Scene {
 
     Scene(int kind, int count);
 
-    void Send(MouseCode code, const PointF& at) { container.sendMouse(code, View, at.x, at.y); }
+    void Send(MouseCode code, const PointF& at) { container.SendMouse(code, View, at.x, at.y); }
     /// One more figure, in the `place`th cell of the scene.
     ShapeID Add(int place);
 

@@ -18,7 +18,7 @@ Scene& SceneOf(benchmark::State& state) {
 
 void Select(Scene& scene, bool selected) {
     for (const ShapeID shape : scene.shapes) {
-        scene.container.selectShape(shape, selected);
+        scene.container.SelectShape(shape, selected);
     }
 }
 
@@ -38,7 +38,7 @@ void Save(benchmark::State& state) {
     for (auto _ : state) {
         for (const ShapeID shape : scene.shapes) {
             benchmark::DoNotOptimize(
-                GetVideoAnalyseShapeConfigData(scene.container.handle(), shape, buffer, sizeof(buffer)));
+                GetVideoAnalyseShapeConfigData(scene.container.Handle(), shape, buffer, sizeof(buffer)));
         }
     }
 }
@@ -46,7 +46,7 @@ void Save(benchmark::State& state) {
 void PressNothing(benchmark::State& state) {
     Scene& scene = SceneOf(state);
     for (auto _ : state) {
-        scene.Send(MouseCode::leftDown, Free);
+        scene.Send(MouseCode::LeftDown, Free);
     }
 }
 
@@ -54,17 +54,17 @@ void PressNothing(benchmark::State& state) {
 void ClickLast(benchmark::State& state) {
     Scene& scene = SceneOf(state);
     for (auto _ : state) {
-        scene.Send(MouseCode::leftDown, scene.firstCornerOfLast);
-        scene.Send(MouseCode::leftUp, scene.firstCornerOfLast);
+        scene.Send(MouseCode::LeftDown, scene.firstCornerOfLast);
+        scene.Send(MouseCode::LeftUp, scene.firstCornerOfLast);
     }
     Select(scene, false);
 }
 
 void MovePointer(benchmark::State& state) {
     Scene& scene = SceneOf(state);
-    scene.Send(MouseCode::leftDown, Free);
+    scene.Send(MouseCode::LeftDown, Free);
     for (auto _ : state) {
-        scene.Send(MouseCode::moved, Free);
+        scene.Send(MouseCode::Moved, Free);
     }
 }
 
@@ -72,14 +72,14 @@ void MovePointer(benchmark::State& state) {
 void DragCorner(benchmark::State& state) {
     Scene& scene = SceneOf(state);
     const PointF corner = scene.firstCornerOfLast;
-    scene.Send(MouseCode::leftDown, corner);
+    scene.Send(MouseCode::LeftDown, corner);
     float step = 1.0F;
     for (auto _ : state) {
-        scene.Send(MouseCode::moved, {corner.x + step, corner.y});
+        scene.Send(MouseCode::Moved, {corner.x + step, corner.y});
         step = -step;
     }
-    scene.Send(MouseCode::moved, corner);
-    scene.Send(MouseCode::leftUp, corner);
+    scene.Send(MouseCode::Moved, corner);
+    scene.Send(MouseCode::LeftUp, corner);
     Select(scene, false);
 }
 
@@ -87,7 +87,7 @@ void Paint(benchmark::State& state) {
     Scene& scene = SceneOf(state);
     Surface surface;
     for (auto _ : state) {
-        scene.container.paint(View, surface);
+        scene.container.Paint(View, surface);
     }
 }
 
@@ -97,7 +97,7 @@ void PaintSelected(benchmark::State& state) {
     Select(scene, true);
     Surface surface;
     for (auto _ : state) {
-        scene.container.paint(View, surface);
+        scene.container.Paint(View, surface);
     }
     Select(scene, false);
 }
@@ -108,10 +108,10 @@ void Resize(benchmark::State& state) {
     const ClientRect old = scene.clientRect;
     for (auto _ : state) {
         scene.clientRect.right = scene.clientRect.right == old.right ? old.right / 2 : old.right;
-        scene.container.refitShapes();
+        scene.container.RefitShapes();
     }
     scene.clientRect = old;
-    scene.container.refitShapes();
+    scene.container.RefitShapes();
 }
 
 /// Covers all scenes that were made so far.

@@ -83,9 +83,9 @@ class Host {
     class Canvas final : public Surface {
       public:
         explicit Canvas(Host& owner) : host(owner) {}
-        void strokeRectangle(const PointF&, const PointF&, float, const ColorF&, int32_t) override { host.Answer(); }
-        void strokeLine(const PointF&, const PointF&, float, const ColorF&, int32_t) override { host.Answer(); }
-        float stringWidth(const TextStyle&, const char*) override { return host.Coordinate(); }
+        void StrokeRectangle(const PointF&, const PointF&, float, const ColorF&, int32_t) override { host.Answer(); }
+        void StrokeLine(const PointF&, const PointF&, float, const ColorF&, int32_t) override { host.Answer(); }
+        float StringWidth(const TextStyle&, const char*) override { return host.Coordinate(); }
 
       private:
         Host& host;

@@ -36,21 +36,21 @@ ShapeID Add(Container& container, const char* type, const std::string& name, con
     settings.name = name.empty() ? nullptr : name.c_str();
     settings.option = option.c_str();
     settings.configuration = configuration.c_str();
-    return container.addShape(settings);
+    return container.AddShape(settings);
 }
 
 void Paint(Container& container, ShapeID shape, int32_t direction) {
     Surface surface;
-    container.setCaption(shape, "caption");
-    container.paint(View, surface);
-    container.setDirection(shape, direction);
-    container.selectShape(shape, false);
-    container.paint(View, surface);
+    container.SetCaption(shape, "caption");
+    container.Paint(View, surface);
+    container.SetDirection(shape, direction);
+    container.SelectShape(shape, false);
+    container.Paint(View, surface);
 }
 
 std::string Read(const Container& container, ShapeID shape) {
     static char buffer[1 << 16];
-    const bool copied = GetVideoAnalyseShapeConfigData(container.handle(), shape, buffer, sizeof(buffer)) != 0;
+    const bool copied = GetVideoAnalyseShapeConfigData(container.Handle(), shape, buffer, sizeof(buffer)) != 0;
     return copied ? buffer : "";
 }
 
@@ -59,7 +59,7 @@ void ReadIntoBuffers(const Container& container, ShapeID shape, const std::strin
     const auto length = static_cast<int32_t>(text.size());
     for (const int32_t size : {-1, 0, 1, length - 1, length, length + 1, length + 2}) {
         std::vector<char> buffer(static_cast<size_t>(size < 0 ? 0 : size), '#');
-        const Bool32 copied = GetVideoAnalyseShapeConfigData(container.handle(), shape, buffer.data(), size);
+        const Bool32 copied = GetVideoAnalyseShapeConfigData(container.Handle(), shape, buffer.data(), size);
         Require(copied == 0 ? size <= length : size >= length);
         Require(copied == 0 ? buffer == std::vector<char>(buffer.size(), '#')
                             : text == std::string(buffer.data(), text.size()));
@@ -67,17 +67,17 @@ void ReadIntoBuffers(const Container& container, ShapeID shape, const std::strin
 }
 
 void Click(Container& container, float x, float y) {
-    container.sendMouse(MouseCode::leftDown, View, x, y);
-    container.sendMouse(MouseCode::moved, View, x + 20.0F, y + 10.0F);
-    container.sendMouse(MouseCode::leftUp, View, x + 20.0F, y + 10.0F);
-    container.sendMouse(MouseCode::rightDown, View, x + 20.0F, y + 10.0F);
+    container.SendMouse(MouseCode::LeftDown, View, x, y);
+    container.SendMouse(MouseCode::Moved, View, x + 20.0F, y + 10.0F);
+    container.SendMouse(MouseCode::LeftUp, View, x + 20.0F, y + 10.0F);
+    container.SendMouse(MouseCode::RightDown, View, x + 20.0F, y + 10.0F);
 }
 
 Container& View800x600() {
     static Container container;
-    static const bool ready = container.onClientRect([](ViewID) {
+    static const bool ready = container.OnClientRect([](ViewID) {
         return ClientRect{0, 0, 800, 600};
-    }) && container.enable();
+    }) && container.Enable();
     Require(ready);
     return container;
 }
@@ -100,12 +100,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
             ReadIntoBuffers(container, shape, text);
             const ShapeID loaded = Add(container, type, name, option, text);
             Require(loaded != 0);
-            container.deleteShape(loaded);
+            container.DeleteShape(loaded);
         }
         Click(container, 0.0F, 0.0F);
         Click(container, 400.0F, 300.0F);
-        Require(!allShapeStates().empty());
+        Require(!AllShapeStates().empty());
     }
-    container.deleteAllShapes();
+    container.DeleteAllShapes();
     return 0;
 }

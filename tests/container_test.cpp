@@ -25,7 +25,7 @@ std::vector<int64_t> AnswersFor(ContainerHandle container, ShapeID shape) {
 
 TEST(Exports, AnswerUnknownContainersAndShapesAsEachIsDocumented) {
     ScenarioHost host;
-    const ContainerHandle container = host.container.handle();
+    const ContainerHandle container = host.container.Handle();
     const ShapeID known = host.Add("Rect", Square);
     for (const ShapeID unknown : {0U, known + 1U, ~0U}) {
         EXPECT_EQ(AnswersFor(container, unknown), (std::vector<int64_t>{0, 1, 0, 0, 0, 0, 1, 1, 1, 0, 0}));
@@ -59,7 +59,7 @@ TEST(Exports, AnswerUnknownContainersAndShapesAsEachIsDocumented) {
 
 TEST(Exports, TakeNullTextsAndNullPointers) {
     ScenarioHost host;
-    const ContainerHandle container = host.container.handle();
+    const ContainerHandle container = host.container.Handle();
     for (const char* type : {"rect", "Rect ", "", "LaneShape", static_cast<const char*>(nullptr)}) {
         EXPECT_EQ(CreateMainVideoAnalyseShape(container, TheView, "", type, "", "", ""), 0U);
     }
@@ -81,19 +81,19 @@ TEST(Exports, TakeNullTextsAndNullPointers) {
 TEST(Exports, KeepTheBytesOfTexts) {
     ScenarioHost host;
     const std::string name = "\xC4\xFF\x80 \"\\\n\x01";
-    const ShapeID shape = host.container.addShape({TheView, "Rect", "\xE4", name.c_str(), nullptr, nullptr});
+    const ShapeID shape = host.container.AddShape({TheView, "Rect", "\xE4", name.c_str(), nullptr, nullptr});
     host.Drag({0, 0}, {800, 600});
     const std::string written = "\xC4\xFF\x80 \\\"\\\\\\n\\u0001";
     EXPECT_EQ(host.Config(shape), "{\"" + written + "\":[[0,0],[8191,8191]]}");
     EXPECT_NE(host.lastEventText.find("\"ShapeName\":\"" + written + "\""), std::string::npos);
     const std::string config = host.Config(shape);
-    const ShapeID copy = host.container.addShape({TheView, "Rect", "", name.c_str(), config.c_str()});
+    const ShapeID copy = host.container.AddShape({TheView, "Rect", "", name.c_str(), config.c_str()});
     EXPECT_EQ(host.Config(copy), config);
 }
 
 TEST(Exports, ReadBooleansFromTheLowByteAlone) {
     ScenarioHost host;
-    const ContainerHandle container = host.container.handle();
+    const ContainerHandle container = host.container.Handle();
     const ShapeID shape = host.Add("Rect", Square);
     EXPECT_EQ(SelectVideoAnalyseShape(container, shape, 0xABCDEF00U), 1U);
     EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), 0U);
@@ -108,20 +108,20 @@ TEST(Exports, ReadBooleansFromTheLowByteAlone) {
 
 TEST(Container, DoesNothingUntilItIsEnabled) {
     ScenarioHost host;
-    host.container.enable(false);
+    host.container.Enable(false);
     host.Add("Rect", Square);
-    host.container.setTip(TheView, "tip");
+    host.container.SetTip(TheView, "tip");
     host.Click(150, 150);
-    host.container.sendKey(TheView, 27);
+    host.container.SendKey(TheView, 27);
     EXPECT_EQ(host.TakeLog(), Lines{});
     EXPECT_EQ(host.Paint(), Lines{});
-    host.container.enable();
+    host.container.Enable();
     EXPECT_NE(host.Paint(), Lines{});
 }
 
 TEST(Container, HandsOutHandlersThatCompareEqual) {
     ScenarioHost host;
-    const ContainerHandle container = host.container.handle();
+    const ContainerHandle container = host.container.Handle();
     ContainerHandlerHolder mouse{nullptr, nullptr};
     ContainerHandlerHolder draw{nullptr, nullptr};
     EXPECT_EQ(GetContainerWinMouseEventHandler(container, &mouse), 1U);
@@ -185,7 +185,7 @@ TEST(Dispatch, AsksTheHostForRedrawsAndHints) {
     ScenarioHost host;
     host.Send(RULECANVAS_MOUSE_KEY_DOWN, 0, 0);
     EXPECT_EQ(host.TakeLog(), Lines{});
-    host.container.sendKey(TheView, 27);
+    host.container.SendKey(TheView, 27);
     EXPECT_EQ(host.TakeLog(), Lines{"redraw"}) << "Escape, without any shape";
     host.Add("Rect", Square);
     host.Send(RULECANVAS_MOUSE_CURSOR_QUERY, 150, 150);
@@ -197,9 +197,9 @@ TEST(Dispatch, AsksTheHostForRedrawsAndHints) {
     EXPECT_EQ(host.TakeLog(), Lines{"hint 4"}) << "the latest press hit the inside";
     host.Press(98, 100); // the outline
     host.TakeLog();
-    host.container.enable(false);
+    host.container.Enable(false);
     host.Press(700, 500);
-    host.container.enable();
+    host.container.Enable();
     host.Send(RULECANVAS_MOUSE_CURSOR_QUERY, 150, 150);
     EXPECT_EQ(host.TakeLog(), Lines{"hint 4"}) << "a disabled container forgets nothing";
     for (const uint32_t code : {0U, 5U, 6U, 7U, 8U, 10U, 12U, ~0U}) {
@@ -213,7 +213,7 @@ TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
     const ShapeID shape = host.Add("Rect");
     host.Drag({100, 100}, {200, 200});
     host.rectOfViewZero = ClientRect{0, 0, 400, 300};
-    EXPECT_TRUE(host.container.refitShapes());
+    EXPECT_TRUE(host.container.RefitShapes());
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[2048,2730]]})") << "the same place of a smaller view";
     host.Drag({100, 100}, {900, 700});
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
@@ -238,30 +238,30 @@ TEST(Container, CollapsesNoFigureWhileTheViewHasNoSize) {
 TEST(Container, DrawsInTheOrderOfCreation) {
     ScenarioHost host;
     for (const char* caption : {"1", "2", "3", "4"}) {
-        host.container.setCaption(host.Add("Rect", Square, "TextOnly"), caption);
+        host.container.SetCaption(host.Add("Rect", Square, "TextOnly"), caption);
     }
     std::string drawn;
     for (const std::string& call : host.Paint()) {
         drawn += call.substr(call.find('"') + 1, 1);
     }
     EXPECT_EQ(drawn, "1234");
-    host.container.ignoreNotifications();
+    host.container.IgnoreNotifications();
     host.Drag({150, 150}, {160, 160});
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture off"}));
 }
 
 TEST(Container, DrawsATipUntilAPressHitsAShapeOfTheView) {
     ScenarioHost host;
-    host.container.setTip(TheView, "first");
-    host.container.setTip(TheView, "wait");
-    host.container.setTip(TheView + 1, "");
+    host.container.SetTip(TheView, "first");
+    host.container.SetTip(TheView, "wait");
+    host.container.SetTip(TheView + 1, "");
     host.clientRect = ClientRect{0, -5, 101, 2};
     EXPECT_EQ(host.Paint(), Lines{"text (36,-1) \"wait\" size 0 yellow in STHeitiSC-Light"}) << "truncated halves";
     EXPECT_EQ(host.Paint(TheView + 1), Lines{});
     host.Resize(800, 600);
     host.Press(10, 10);
     EXPECT_EQ(host.Paint().size(), 1U) << "no shape, the tip stays";
-    host.container.showShape(host.Add("Rect", Square), false);
+    host.container.ShowShape(host.Add("Rect", Square), false);
     host.RightPress(150, 150);
     EXPECT_EQ(host.Paint().size(), 1U) << "a right press leaves it";
     host.Click(10, 10);
@@ -271,30 +271,30 @@ TEST(Container, DrawsATipUntilAPressHitsAShapeOfTheView) {
 TEST(Container, ChangesTheLookOfOneShape) {
     ScenarioHost host;
     const ShapeID shape = host.Add("Rect", Square);
-    host.container.setCaption(shape, "gate");
-    host.container.setColour(shape, Outline::selected, 1, 2, 3);
-    host.container.setColour(shape, Outline::unselected, -1, 300, 0);
-    host.container.showHandles(shape, false);
+    host.container.SetCaption(shape, "gate");
+    host.container.SetColour(shape, Outline::Selected, 1, 2, 3);
+    host.container.SetColour(shape, Outline::Unselected, -1, 300, 0);
+    host.container.ShowHandles(shape, false);
     EXPECT_EQ(host.Paint(), (Lines{"text (98,73) \"gate\" size 2 1,2,3", "rect (98,73)-(293,220) w2 1,2,3"}));
-    host.container.selectShape(shape, false);
+    host.container.SelectShape(shape, false);
     EXPECT_EQ(host.Paint(), (Lines{"text (98,73) \"gate\" size 2 -1,300,0", "rect (98,73)-(293,220) w2 -1,300,0"}));
-    host.container.showShape(shape, false);
+    host.container.ShowShape(shape, false);
     EXPECT_EQ(host.Paint(), Lines{});
 }
 
 TEST(Container, WorksWithoutAHostObjectAndAnyDelegate) {
     Container container;
-    container.enable();
-    const ShapeID shape = container.addShape({0, "Rect"});
+    container.Enable();
+    const ShapeID shape = container.AddShape({0, "Rect"});
     ASSERT_NE(shape, 0U);
-    container.sendMouse(MouseCode::leftDown, 0, 0, 0); // the view has no size, but its origin
-    container.sendMouse(MouseCode::moved, 0, 50, 50);
-    container.sendKey(0, 27);
-    container.sendMouse(MouseCode::leftUp, 0, 50, 50);
+    container.SendMouse(MouseCode::LeftDown, 0, 0, 0); // the view has no size, but its origin
+    container.SendMouse(MouseCode::Moved, 0, 50, 50);
+    container.SendKey(0, 27);
+    container.SendMouse(MouseCode::LeftUp, 0, 50, 50);
     RecordingSurface surface;
-    container.paint(0, surface);
+    container.Paint(0, surface);
     EXPECT_EQ(surface.calls, Lines{});
-    EXPECT_TRUE(container.configuration(shape).empty());
+    EXPECT_TRUE(container.Configuration(shape).empty());
 }
 
 TEST(StateReport, ListsTheShapesOfAllContainers) {
@@ -310,12 +310,12 @@ TEST(StateReport, ListsTheShapesOfAllContainers) {
     ScenarioHost two;
     const ShapeID a = one.Add("Rect");
     const ShapeID b = two.Add("Rect");
-    one.container.selectShape(a, false);
+    one.container.SelectShape(a, false);
     const auto entry = [](ShapeID id, bool selected) {
         return "{\"ShapeID\":" + std::to_string(static_cast<int32_t>(id)) +
                R"(,"ShapeName":"rule","ShapeType":5,"bSelShape":)" + (selected ? "true}" : "false}");
     };
-    const bool oneFirst = one.container.handle() < two.container.handle();
+    const bool oneFirst = one.container.Handle() < two.container.Handle();
     const std::string expected =
         "[" + (oneFirst ? entry(a, false) + "," + entry(b, true) : entry(b, true) + "," + entry(a, false)) + "]";
     std::string report(expected.size() + 1, '#');

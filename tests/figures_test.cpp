@@ -32,7 +32,7 @@ TEST(Cross, IsPlacedByOneClickEach) {
     host.Click(300.9F, 100);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 2>3"}));
     EXPECT_EQ(host.Config(shape), R"({"rule":[[110,-19],[200,100],[300,100]]})");
-    host.container.setPointLimits(shape, 2, 0);
+    host.container.SetPointLimits(shape, 2, 0);
     EXPECT_EQ(host.Config(shape), "") << "not as many as the host now wants";
 }
 
@@ -48,7 +48,7 @@ TEST(Cross, IsDraggedByItsBoxOrFromAnywhereWhenItIsAlone) {
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 5>3"}));
     EXPECT_EQ(host.Config(shape), R"({"rule":[[410,310]]})") << "neither a move outside nor the release counts";
 
-    host.container.deleteShape(shape);
+    host.container.DeleteShape(shape);
     shape = host.Add("CrossShape", R"({"rule":[[100,100],[108,100],[300,300]]})");
     host.Drag({94, 100}, {50, 50});   // 6 pixels beside the first
     host.Drag({105, 95}, {50, 50});   // in the boxes of the first and the second
@@ -71,12 +71,12 @@ TEST(BigCross, SpansThePictureAtTwoPlacesAndIsWrittenAsBands) {
     const std::string bands = R"({"rule":[[0,2999,8191,3001],[3999,0,4001,8191],[0,199,8191,201],[99,0,101,8191]]})";
     ScenarioHost host(GridView, GridView);
     ShapeID shape = host.Add("BigCrossShape");
-    host.container.setPointLimits(shape, 5, 0); // two it stays
+    host.container.SetPointLimits(shape, 5, 0); // two it stays
     host.Click(4000, 3000);
     host.Click(100, 200);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture on", "state rule 2>3"}));
     EXPECT_EQ(host.Config(shape), bands);
-    host.container.deleteShape(shape);
+    host.container.DeleteShape(shape);
     shape = host.Add("BigCrossShape", bands);
     host.Drag({300, 300}, {400, 400}); // no cross-hair there
     host.Press(4005, 2995);            // which alone moves nothing
@@ -103,7 +103,7 @@ TEST(Markers, KeepTheirCaptionInThePicture) {
                                             Placing{"SpotShape", {767, 593}, "text (772,588) \"gate\" size 2 "},
                                             Placing{"SpotShape", {768, 594}, "text (734,572) \"gate\" size 2 "}}) {
         ScenarioHost host;
-        host.container.setCaption(host.Add(type), "gate"); // 28 x 12
+        host.container.SetCaption(host.Add(type), "gate"); // 28 x 12
         host.Click(press.x, press.y);
         EXPECT_EQ(host.Paint().back(), text + std::string("yellow"));
     }
@@ -114,8 +114,8 @@ TEST(Markers, CopyTheirConfigurationIntoABufferOfItsLength) {
         ScenarioHost host(GridView, GridView);
         const ShapeID shape = host.Add(type, R"({"rule":[[1,2]]})");
         char buffer[] = "##################"; // the text has 17 characters
-        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer, 16), 0U);
-        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer, 17), 1U);
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer, 16), 0U);
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer, 17), 1U);
         EXPECT_STREQ(buffer, "{\"rule\":[[1,2]]}\n#") << "without the terminating zero";
     }
 }
@@ -125,7 +125,7 @@ TEST(Crosses, AreCompleteWhenTheMaximumIsLoweredBetweenTwoClicks) {
     const ShapeID shape = host.Add("CrossShape", "", "3");
     host.Click(100, 100);
     host.Click(200, 100);
-    host.container.setPointLimits(shape, 2, 0);
+    host.container.SetPointLimits(shape, 2, 0);
     host.TakeLog();
     host.Click(300, 100);
     EXPECT_EQ(host.TakeLog(), Lines{"state rule 2>3"});
@@ -139,7 +139,7 @@ TEST(Figures, LeaveNoListenerWhenTheyAreDeletedInAGesture) {
         host.Click(100, 100);
         host.Press(100, 100);
         host.TakeLog();
-        host.container.deleteShape(shape);
+        host.container.DeleteShape(shape);
         host.Send(RULECANVAS_MOUSE_MOVED_EVENT, 110, 110);
         host.Release(110, 110);
         // A spot clears itself on its way out, too.
@@ -166,13 +166,13 @@ TEST(Spot, IsPlacedByAClickAndDragged) {
     EXPECT_EQ(host.Config(shape), R"({"rule":[[112,120]]})") << "a step out of the view is refused";
 
     host.Click(116, 124); // beside it
-    host.container.setTip(TheView, "tip");
+    host.container.SetTip(TheView, "tip");
     host.Click(300, 300);
     EXPECT_EQ(host.Paint()[0], "ellipse (107,115)-(117,125) w2 blue") << "an unselected spot answers: no tip is left";
-    host.container.selectShape(host.Add("Rect"), false);
+    host.container.SelectShape(host.Add("Rect"), false);
     host.Press(112, 120);
     EXPECT_EQ(host.TakeLog(), Lines{"capture on"}) << "the rectangle takes the press";
-    EXPECT_EQ(host.container.selectedShape(), shape) << "but the spot that was hit is selected";
+    EXPECT_EQ(host.container.SelectedShape(), shape) << "but the spot that was hit is selected";
 }
 
 TEST(Spot, IsAnOutlineOrSolidOfItsRadius) {
@@ -197,7 +197,7 @@ TEST(Oval, IsDrawnByDraggingAndKeepsTheCapture) {
     const ShapeID shape = host.Add("OvalShape");
     EXPECT_EQ(host.Paint(), Lines{"ellipse (0,0)-(0,0) w2 yellow"}) << "a waiting oval draws its empty rubber band";
     host.Press(200.5F, 150);
-    EXPECT_TRUE(host.container.redrawShape(shape)) << "an oval is not restarted: the drag goes on";
+    EXPECT_TRUE(host.container.RedrawShape(shape)) << "an oval is not restarted: the drag goes on";
     host.Move(90, 900);
     EXPECT_EQ(host.Paint(), Lines{"ellipse (200.5,150)-(90,900) w2 yellow"}) << "the rubber band is not clamped";
     host.Release(90, 900);
@@ -218,12 +218,12 @@ TEST(Oval, GoesOnFromAClick) {
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture on", "state rule 2>3", "capture on"}));
     EXPECT_EQ(host.Config(shape), R"({"rule":[[100,100],[101,150]]})") << "no oval is too narrow to be drawn";
 
-    host.container.deleteShape(shape);
+    host.container.DeleteShape(shape);
     shape = host.Add("OvalShape");
     host.Click(10, 10);
     host.Release(20, 30);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 1>3", "capture on"})) << "without a move between";
-    host.container.showShape(shape, false); // a drag with an extent shows nevertheless
+    host.container.ShowShape(shape, false); // a drag with an extent shows nevertheless
     EXPECT_EQ(host.Paint(TheView + 1)[0], "ellipse (10,10)-(20,30) w2 yellow") << "in every view";
     host.Drag({15, 20}, {25, 30});
     EXPECT_EQ(host.Paint(), Lines{}) << "a move ends at its anchor";
@@ -256,7 +256,7 @@ TEST(Oval, IsMovedByTheInsideOfItsRectangle) {
     host.Release(5, 126.5F);
     EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 4>3", "capture off"}));
     host.Click(108, 140); // on the edge, but outside
-    host.container.showHandles(shape);
+    host.container.ShowHandles(shape);
     host.Click(300, 300); // also hides the handles of an unselected oval
     EXPECT_EQ(host.Paint(),
               (Lines{"ellipse (110.5,120.5)-(210.5,200.5) w2 blue", "text (110.5,120.5) \"\" size 2 blue"}));
@@ -283,12 +283,12 @@ TEST(Oval, ReadsOneKeyAndWritesAnother) {
 
 TEST(PixelCount, IsPlacedInTheMiddleByTheFirstPaint) {
     ScenarioHost host;
-    host.container.setVideoSize(640, 480);
+    host.container.SetVideoSize(640, 480);
     const ShapeID shape = host.Add("PixelCountShape", R"({"rule":[320,240]})", R"({"FontSize":9,"LineThickness":7})");
     EXPECT_EQ(host.Paint(TheView + 1), Lines{});
     EXPECT_EQ(host.Config(shape), "") << "no corners yet";
-    host.container.selectShape(shape, false); // and yet in the selected colour
-    host.container.showHandles(shape);
+    host.container.SelectShape(shape, false); // and yet in the selected colour
+    host.container.ShowHandles(shape);
     EXPECT_EQ(host.Paint(),
               (Lines{"text (385,298) \"320*240\" size 9 yellow", "rect (200,150)-(600,450) w1 yellow dashed",
                      "rect (197,147)-(203,153) w2 yellow", "rect (597,147)-(603,153) w2 yellow",
@@ -302,16 +302,16 @@ TEST(PixelCount, IsPlacedInTheMiddleByTheFirstPaint) {
 TEST(PixelCount, WaitsUntilVideoAndViewAreKnownAndKeepsTheSizeOfTheVideo) {
     ScenarioHost host;
     for (const bool videoFirst : {true, false}) {
-        host.container.deleteAllShapes();
-        host.container.setVideoSize(640, videoFirst ? 480 : 0);
+        host.container.DeleteAllShapes();
+        host.container.SetVideoSize(640, videoFirst ? 480 : 0);
         host.Resize(videoFirst ? 0 : 800, 600);
-        host.container.showHandles(host.Add("PixelCountShape", R"({"rule":[320,240]})"), false);
+        host.container.ShowHandles(host.Add("PixelCountShape", R"({"rule":[320,240]})"), false);
         EXPECT_EQ(host.Paint(), Lines{});
-        host.container.setVideoSize(640, 480);
+        host.container.SetVideoSize(640, 480);
         host.Resize(800, 600);
         EXPECT_EQ(host.Paint()[0], "text (385,298) \"320*240\" size 0 yellow");
     }
-    host.container.setVideoSize(64, 48);
+    host.container.SetVideoSize(64, 48);
     host.Press(600, 450);
     host.Move(400, 300);
     EXPECT_EQ(host.Paint()[0], "text (285,223) \"160*120\" size 0 yellow");
@@ -319,7 +319,7 @@ TEST(PixelCount, WaitsUntilVideoAndViewAreKnownAndKeepsTheSizeOfTheVideo) {
 
 TEST(PixelCount, IsMeasuredByThePaintsOfADragButNotOfAMove) {
     ScenarioHost host;
-    host.container.setVideoSize(640, 480);
+    host.container.SetVideoSize(640, 480);
     const ShapeID shape = host.Add("PixelCountShape");
     host.Press(100, 100);
     host.Move(105, 100); // as small as the user likes
@@ -338,14 +338,14 @@ TEST(PixelCount, IsMeasuredByThePaintsOfADragButNotOfAMove) {
 
 TEST(PixelCount, RefusesWhatIsNoSizeReadsNoModeWordAndForgetsAPlaceWhenItIsDrawnAnew) {
     ScenarioHost host;
-    host.container.setVideoSize(640, 480);
+    host.container.SetVideoSize(640, 480);
     for (const char* refused : {R"({"rule":[320]})", "{", R"({"rule":[320,"a"]})"}) {
         EXPECT_EQ(host.Add("PixelCountShape", refused), 0U) << refused;
     }
     for (const char* word : {"TextOnly", "EnableRBtnDelete"}) {
-        host.container.showHandles(host.Add("PixelCountShape", R"({"rule":[320,240]})", word), false);
+        host.container.ShowHandles(host.Add("PixelCountShape", R"({"rule":[320,240]})", word), false);
     }
-    host.container.redrawShape(host.Add("PixelCountShape", R"({"rule":[320,240]})"));
+    host.container.RedrawShape(host.Add("PixelCountShape", R"({"rule":[320,240]})"));
     host.Paint();
     host.RightPress(400, 300);
     EXPECT_EQ(host.Paint().size(), 4U);

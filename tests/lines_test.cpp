@@ -35,14 +35,14 @@ TEST(Line, IsDrawnWithTwoClicksAsWellAsInOneStroke) {
                                            Row{"ArrowLineShape", "1", "line (10,10)-(200,90) w2 yellow"}}) {
         SCOPED_TRACE(type);
         ScenarioHost host(GridView, GridView);
-        host.container.showHandles(host.Add(type), false);
+        host.container.ShowHandles(host.Add(type), false);
         host.Press(10, 10);
         host.Release(15.9F, 5); // too near for a stroke
         host.Move(200.9F, 90.9F);
         EXPECT_EQ(host.Paint(), Lines{line});
         host.Click(200.9F, 90.9F);
         EXPECT_EQ(host.Paint()[0], line);
-        EXPECT_NE(allShapeStates().str().find(std::string("\"ShapeType\":") + kind + ","), std::string::npos);
+        EXPECT_NE(AllShapeStates().str().find(std::string("\"ShapeType\":") + kind + ","), std::string::npos);
         host.Drag({9, 300}, {300, 300}); // complete, it listens no longer
         EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "state rule 2>3", "capture off"}));
     }
@@ -51,8 +51,8 @@ TEST(Line, IsDrawnWithTwoClicksAsWellAsInOneStroke) {
 TEST(Line, BeginsInTheViewAndEndsThereToo) {
     ScenarioHost host(800, 600);
     const ShapeID shape = host.Add("LineShape");
-    host.container.showHandles(shape, false);
-    host.container.setDirection(shape, 3); // a mark without arrows
+    host.container.ShowHandles(shape, false);
+    host.container.SetDirection(shape, 3); // a mark without arrows
     host.Press(801, 300);
     EXPECT_EQ(host.TakeLog(), Lines{});
     host.Press(780, 300);
@@ -73,17 +73,17 @@ TEST(Line, ReadsItsConfigurationOrRefusesIt) {
         ScenarioHost host(GridView, GridView);
         const std::string member = "{\"" + std::string(name) + "\":";
         const std::string config = member + points + "}";
-        const ShapeID shape = host.container.addShape({TheView, "LineShape", "", name, config.c_str(), ""});
+        const ShapeID shape = host.container.AddShape({TheView, "LineShape", "", name, config.c_str(), ""});
         EXPECT_EQ(shape == 0, *readBack == '\0') << config;
         EXPECT_EQ(host.Config(shape), shape == 0 ? "" : member + readBack + "}");
     }
     ScenarioHost host(1000, 500);
     const char* middle = R"({"MiddleLine":[[0,100],[100,100]]})";
-    const ShapeID shape = host.container.addShape({TheView, "LineShape", "", "MiddleLine", middle, ""});
+    const ShapeID shape = host.container.AddShape({TheView, "LineShape", "", "MiddleLine", middle, ""});
     EXPECT_EQ(host.Paint()[0], "line (0,6)-(8191,6) w2 yellow") << "the grid's span counts as pixels";
     char buffer[35];
-    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer, 34), 0U);
-    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer, 35), 1U);
+    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer, 34), 0U);
+    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer, 35), 1U);
     EXPECT_EQ(buffer, host.Config(shape)) << "without a line feed";
 }
 
@@ -139,15 +139,15 @@ TEST(Line, FollowsTheMouseAndIsLetGoWhenItMeetsTheBorder) {
 TEST(Line, IsHitOnItsSegmentsAloneAndDeselectedByAnyOtherPress) {
     ScenarioHost host(GridView, GridView);
     const ShapeID shape = host.Add("LineShape", Level, R"({"LineThickness":5,"CanAdjust":false})");
-    host.container.setCaption(shape, "gate");
-    host.container.setDirection(shape, 0);
+    host.container.SetCaption(shape, "gate");
+    host.container.SetDirection(shape, 0);
     EXPECT_EQ(host.Paint(),
               (Lines{"line (100,100)-(200,100) w5 yellow", "line (150,80)-(150,120) w2 yellow",
                      "line (150,120)-(145.22,111.22) w2 yellow", "line (150,120)-(155.21,111.47) w2 yellow",
                      "caption \"gate\" at (100,100)(200,100) yellow clip 0,0,8191,8191",
                      "rect (97,97)-(103,103) w2 yellow", "rect (197,97)-(203,103) w2 yellow"}));
     host.Press(203, 103);
-    EXPECT_EQ(host.container.selectedShape(), shape);
+    EXPECT_EQ(host.container.SelectedShape(), shape);
     host.Press(204, 100); // near the end, but not near the segment
     EXPECT_EQ(host.Paint()[0], "line (100,100)-(200,100) w2 blue");
     EXPECT_EQ(host.TakeLog(), Lines{}) << "neither press could grab it";
@@ -166,7 +166,7 @@ TEST(Line, ShowsTheDirectionOfCrossingAndATripwireItsSidesToo) {
             EXPECT_EQ(Tips(host.Paint()), "") << "the style's direction is another one";
             std::string seen;
             for (int direction = 0; direction <= 2; ++direction) {
-                host.container.setDirection(shape, direction);
+                host.container.SetDirection(shape, direction);
                 seen += Tips(host.Paint()) + " ";
             }
             for (const std::string& call : host.Paint()) {
@@ -180,8 +180,8 @@ TEST(Line, ShowsTheDirectionOfCrossingAndATripwireItsSidesToo) {
 TEST(XLine, IsDrawnPointByPointAndFinishedByTheRightButton) {
     ScenarioHost host(GridView, GridView);
     const ShapeID shape = host.Add("XLineShape", "", R"({"UnSelLineThickness":7,"LineThickness":4})");
-    host.container.setCaption(shape, "wire");
-    host.container.setDirection(shape, 4);
+    host.container.SetCaption(shape, "wire");
+    host.container.SetDirection(shape, 4);
     host.Click(100, 100);
     host.RightPress(100, 100); // one point is no path
     host.Click(200, 100);
@@ -200,15 +200,15 @@ TEST(XLine, IsDrawnPointByPointAndFinishedByTheRightButton) {
     host.RightPress(300, 300);
     host.RightPress(150, 100); // finished
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "state rule 2>3", "capture off"}));
-    host.container.selectShape(shape, false);
+    host.container.SelectShape(shape, false);
     EXPECT_EQ(host.Paint()[1], "line (100,100)-(200,100) w4 blue") << "as thick as when selected";
 }
 
 TEST(DashLine, HasOneThicknessNoMarkAndAlwaysACaption) {
     ScenarioHost host(GridView, GridView);
     const ShapeID shape = host.Add("DashLineShape", Level, R"({"UnSelLineThickness":7})");
-    host.container.setDirection(shape, 2);
-    host.container.selectShape(shape, false);
+    host.container.SetDirection(shape, 2);
+    host.container.SelectShape(shape, false);
     EXPECT_EQ(host.Paint(), (Lines{"line (100,100)-(200,100) w2 blue dashed",
                                    "caption \"\" at (100,100)(200,100) blue clip 0,0,8191,8191"}));
 }
@@ -224,13 +224,13 @@ TEST(ArrowLine, PutsItsHeadWhereTheDirectionSays) {
             host.Add("ArrowLineShape", R"({"rule":[)" + std::string(path) + "]}", R"({"XArrowLine":true})");
         std::string seen;
         for (int direction = 2; direction <= 6; ++direction) {
-            host.container.setDirection(shape, direction);
+            host.container.SetDirection(shape, direction);
             seen += Tips(host.Paint()) + " ";
         }
         EXPECT_EQ(seen, heads) << path;
     }
     ScenarioHost host(GridView, GridView);
-    host.container.showHandles(host.Add("ArrowLineShape", Level, R"({"LineThickness":3,"Direction":5})"), false);
+    host.container.ShowHandles(host.Add("ArrowLineShape", Level, R"({"LineThickness":3,"Direction":5})"), false);
     EXPECT_EQ(host.Paint(), (Lines{"line (100,100)-(200,100) w3 yellow", "line (200,100)-(191.34,105) w3 yellow",
                                    "line (200,100)-(191.34,95) w3 yellow"}));
 }

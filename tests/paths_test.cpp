@@ -63,7 +63,7 @@ void Check(const std::vector<Story>& stories) {
         SCOPED_TRACE(story.type + story.begin + story.acts);
         ScenarioHost host(GridView, GridView);
         const ShapeID shape = host.Add(story.type, Rule(story.begin), story.option);
-        host.container.setPointLimits(shape, 4, 2); // the minimum stays 3
+        host.container.SetPointLimits(shape, 4, 2); // the minimum stays 3
         Act(host, story.acts);
         Lines log = host.TakeLog();
         log.erase(std::remove(log.begin(), log.end(), "redraw"), log.end());
@@ -144,19 +144,19 @@ TEST(Paths, AreDrawnOnTheSurface) {
               (Lines{"line (9.5,9)-(90,9) w2 yellow", "line (90,9)-(90,80) w2 yellow", "line (90,80)-(9.5,9) w2 yellow",
                      "caption \"\" at (9.5,9)(90,9)(90,80) yellow clip 0,0,800,600", "rect (6.5,6)-(12.5,12) w2 yellow",
                      "rect (87,6)-(93,12) w2 yellow", "rect (87,77)-(93,83) w2 yellow"}));
-    host.container.selectShape(polygon, false);
-    host.container.redrawShape(polygon);
-    EXPECT_EQ(host.container.selectedShape(), polygon) << "waits for its first click, selected";
-    host.container.deleteShape(polygon);
+    host.container.SelectShape(polygon, false);
+    host.container.RedrawShape(polygon);
+    EXPECT_EQ(host.container.SelectedShape(), polygon) << "waits for its first click, selected";
+    host.container.DeleteShape(polygon);
 
     const ShapeID line = host.Add("BrokenLine");
-    host.container.setCaption(line, "way");
+    host.container.SetCaption(line, "way");
     Act(host, "click 9 9 click 90 9");
-    host.container.setPointLimits(line, 2, 3);
+    host.container.SetPointLimits(line, 2, 3);
     Act(host, "click 90 80 move -9 40.5"); // full already
     EXPECT_EQ(host.Paint(), (Lines{"line (9,9)-(90,9) w2 yellow", "line (90,9)-(0,40) w2 yellow",
                                    "rect (6,6)-(12,12) w2 yellow", "rect (87,6)-(93,12) w2 yellow"}));
-    host.container.setPointLimits(line, 3, 3);
+    host.container.SetPointLimits(line, 3, 3);
     host.Click(90, 80);
     EXPECT_EQ(host.Paint()[2], "caption \"way\" at (9,9)(90,9)(90,80) yellow clip 0,0,800,600");
 }
@@ -169,7 +169,7 @@ TEST(Polygon, PointsAcrossItsFirstEdge) {
          {Case{0, Hook, "120 120 "}, Case{0, above, "80 80 "}, Case{1, Hook, "80 80 "}, Case{1, above, "120 120 "},
           Case{2, Hook, "120 120 80 80 "}, Case{3, Hook, ""}}) {
         ScenarioHost host(GridView, GridView);
-        host.container.setDirection(host.Add("Polygon", Rule(points), R"({"LineThickness":5})"), direction);
+        host.container.SetDirection(host.Add("Polygon", Rule(points), R"({"LineThickness":5})"), direction);
         const Lines drawn = host.Paint();
         EXPECT_EQ(drawn[3], drawn[2]) << "the closing edge once more";
         EXPECT_EQ(drawn[4], "line (150,80)-(150,120) w2 yellow");
@@ -208,8 +208,8 @@ TEST(Paths, CopyTheirConfigurationEachByItsOwnSizeRule) {
         const ShapeID shape = host.Add(type, Rule(Hook));
         const auto size = static_cast<int32_t>(text.size());
         std::string buffer(text.size(), '#');
-        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer.data(), size - 1), 0U);
-        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer.data(), size), 1U);
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer.data(), size - 1), 0U);
+        EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer.data(), size), 1U);
         EXPECT_EQ(buffer, copied);
     }
 }

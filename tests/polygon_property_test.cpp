@@ -58,7 +58,7 @@ class VertexReader final : public Surface {
   public:
     Ring vertices;
 
-    void strokeLine(const PointF& from, const PointF&, float, const ColorF&, int32_t) override {
+    void StrokeLine(const PointF& from, const PointF&, float, const ColorF&, int32_t) override {
         vertices.push_back(from);
     }
 };
@@ -79,8 +79,8 @@ void Play(const char* type, const char* option) {
     std::map<std::string, int> heard;
     for (int event = 0; event < 20000; ++event) {
         if (pick(60) == 0) {
-            host.container.redrawShape(shape);
-            host.container.setPointLimits(shape, 3 + pick(8), 3);
+            host.container.RedrawShape(shape);
+            host.container.SetPointLimits(shape, 3 + pick(8), 3);
             closed = false;
         }
         const PointF place{static_cast<float>(pick(140)) / 2 - 5, static_cast<float>(pick(116)) / 2 - 5};
@@ -90,7 +90,7 @@ void Play(const char* type, const char* option) {
             closed = entry.rfind("state ", 0) == 0 ? entry.back() == '3' : closed;
         }
         VertexReader reader;
-        host.container.paint(TheView, reader);
+        host.container.Paint(TheView, reader);
         ASSERT_FALSE(EdgesMeet(reader.vertices, closed)) << "event " << event;
         ASSERT_FALSE(*option != '\0' && IsConcave(reader.vertices)) << "event " << event;
     }

@@ -32,7 +32,7 @@ TEST(Rectangle, IsDrawnByDraggingInAnyDirection) {
         EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture off", "state rule 2>3"}));
         EXPECT_EQ(host.Paint(), SelectedRectangle({std::min(100.0F, end.x), std::min(80.0F, end.y)},
                                                   {std::max(100.0F, end.x), std::max(80.0F, end.y)}));
-        EXPECT_EQ(host.container.selectedShape(), shape);
+        EXPECT_EQ(host.container.SelectedShape(), shape);
     }
 }
 
@@ -126,7 +126,7 @@ TEST(Rectangle, IsDeletedByTheRightButtonOnlyWhenAllowed) {
     host.Click(150, 150);
     host.RightPress(150, 150);
     EXPECT_EQ(host.TakeLog(), Lines{}) << "a deleted shape is not hit";
-    EXPECT_TRUE(host.container.redrawShape(shape));
+    EXPECT_TRUE(host.container.RedrawShape(shape));
     host.Drag({10, 10}, {90, 90});
     EXPECT_EQ(host.Config(shape), R"({"rule":[[10,10],[90,90]]})") << "but can be drawn anew";
 }
@@ -159,11 +159,11 @@ TEST(Rectangle, CopiesItsConfigurationOnlyIntoABufferThatHoldsAllOfIt) {
     const auto needed = static_cast<int32_t>(untouched.size());
     for (const int32_t size : {INT32_MIN, -1, 0, 1, needed - 1, needed}) {
         std::string buffer = untouched;
-        const bool copied = isTrue(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, buffer.data(), size));
+        const bool copied = IsTrue(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer.data(), size));
         EXPECT_EQ(copied, size == needed);
         EXPECT_EQ(buffer, copied ? text + '\0' : untouched) << size;
     }
-    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.handle(), shape, nullptr, needed), 0U);
+    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, nullptr, needed), 0U);
 }
 
 TEST(Rectangle, DrawsAsItsStyleSays) {
@@ -180,7 +180,7 @@ TEST(Rectangle, DrawsAsItsStyleSays) {
         ScenarioHost host(GridView, GridView);
         const ShapeID shape = host.Add("Rect", R"({"rule":[[0,0],[20,20]]})", option);
         EXPECT_EQ(host.Paint()[1], std::string("rect (0,0)-(20,20)") + whenSelected);
-        host.container.selectShape(shape, false);
+        host.container.SelectShape(shape, false);
         EXPECT_EQ(host.Paint()[1], std::string("rect (0,0)-(20,20)") + whenDeselected);
     }
     ScenarioHost host(GridView, GridView);
@@ -204,7 +204,7 @@ TEST(Rectangle, CoversItsInsideWithAMosaic) {
           Case{R"({"mosaic":{"enable":true,"size":0}})", {}}, Case{R"({"mosaic":{"size":8}})", {}}}) {
         ScenarioHost host(GridView, GridView);
         const ShapeID shape = host.Add("Rect", R"({"rule":[[5,5],[25,17]]})", option);
-        host.container.selectShape(shape, false);
+        host.container.SelectShape(shape, false);
         const Lines drawn = host.Paint();
         ASSERT_GE(drawn.size(), 2U);
         EXPECT_EQ(Lines(drawn.begin() + 2, drawn.end()), layer) << option;

@@ -17,14 +17,14 @@ struct Action {
 };
 
 const Action Actions[] = {
-    {"delete the shape", [](ScenarioHost& host, ShapeID shape) { host.container.deleteShape(shape); }, true},
-    {"delete all", [](ScenarioHost& host, ShapeID) { host.container.deleteAllShapes(); }, true},
+    {"delete the shape", [](ScenarioHost& host, ShapeID shape) { host.container.DeleteShape(shape); }, true},
+    {"delete all", [](ScenarioHost& host, ShapeID) { host.container.DeleteAllShapes(); }, true},
     {"release the container",
-     [](ScenarioHost& host, ShapeID) { ReleaseVideoAnalyseContainer(host.container.handle()); }, true},
-    {"draw anew", [](ScenarioHost& host, ShapeID shape) { host.container.redrawShape(shape); }},
+     [](ScenarioHost& host, ShapeID) { ReleaseVideoAnalyseContainer(host.container.Handle()); }, true},
+    {"draw anew", [](ScenarioHost& host, ShapeID shape) { host.container.RedrawShape(shape); }},
     {"draw anew and press",
      [](ScenarioHost& host, ShapeID shape) {
-         host.container.redrawShape(shape);
+         host.container.RedrawShape(shape);
          host.Press(300, 300);
      }},
     {"press", [](ScenarioHost& host, ShapeID) { host.Press(150, 150); }},
@@ -35,13 +35,13 @@ const Action Actions[] = {
      }},
     {"disable and paint",
      [](ScenarioHost& host, ShapeID shape) {
-         host.container.enableShape(shape, false);
+         host.container.EnableShape(shape, false);
          host.Paint();
-         host.container.enableShape(shape);
+         host.container.EnableShape(shape);
      }},
     {"make another",
      [](ScenarioHost& host, ShapeID) {
-         host.container.addShape({TheView + 1, "Rect"});
+         host.container.AddShape({TheView + 1, "Rect"});
      }},
 };
 
@@ -73,7 +73,7 @@ size_t ActInside(ScenarioHost& host, ShapeID shape, const Action& action, size_t
 
 /// What is written down when a shape is drawn anew by one drag.
 Lines DrawnAnew(ScenarioHost& host, ShapeID shape) {
-    host.container.redrawShape(shape);
+    host.container.RedrawShape(shape);
     host.TakeLog();
     host.Drag({300, 300}, {400, 400});
     return host.TakeLog();
@@ -133,7 +133,7 @@ TEST(Callbacks, LetsTheLatestWordOfTheHostStand) {
         host.onEntry = [&](const std::string& entry) {
             if (!done && entry == c.inside) {
                 done = true;
-                host.container.redrawShape(shape);
+                host.container.RedrawShape(shape);
                 host.Press(150, 150);
             }
         };
@@ -148,17 +148,17 @@ TEST(Callbacks, LetsTheLatestWordOfTheHostStand) {
 
 TEST(Callbacks, AListenerThatIsGoneIsNotCalled) {
     ScenarioHost host;
-    host.container.addShape({TheView, "Rect", "label", "rule"});
-    const ShapeID first = host.container.selectedShape();
+    host.container.AddShape({TheView, "Rect", "label", "rule"});
+    const ShapeID first = host.container.SelectedShape();
     host.Press(100, 100);
-    host.container.enableShape(first, false);
+    host.container.EnableShape(first, false);
     const ShapeID second = host.Add("Rect");
     host.Press(110, 110);
     host.TakeLog();
     host.onEntry = [&](const std::string& entry) {
         if (entry == "capture off") {
             host.onEntry = nullptr;
-            host.container.deleteShape(second);
+            host.container.DeleteShape(second);
         }
     };
     host.Release(200, 200);
@@ -169,7 +169,7 @@ TEST(Callbacks, ReleasingTheContainerWhileAShapeIsMadeMakesNone) {
     ScenarioHost host;
     host.onEntry = [&](const std::string& entry) {
         if (entry == "select ") {
-            ReleaseVideoAnalyseContainer(host.container.handle());
+            ReleaseVideoAnalyseContainer(host.container.Handle());
         }
     };
     EXPECT_EQ(host.Add("Rect"), 0U);
@@ -187,13 +187,13 @@ TEST(Threads, APaintAndOtherCallsMayRunBesideTheMouse) {
     });
     std::thread caller([&] {
         while (running) {
-            host.container.setCaption(resident, "a caption too long to be kept in place");
-            host.container.setColour(resident, Outline::selected, 1, 2, 3);
-            host.container.setTip(TheView, "tip");
-            host.container.selectShape(resident);
-            host.container.setDirection(resident, 1);
-            host.container.refitShapes();
-            host.container.configuration(resident);
+            host.container.SetCaption(resident, "a caption too long to be kept in place");
+            host.container.SetColour(resident, Outline::Selected, 1, 2, 3);
+            host.container.SetTip(TheView, "tip");
+            host.container.SelectShape(resident);
+            host.container.SetDirection(resident, 1);
+            host.container.RefitShapes();
+            host.container.Configuration(resident);
         }
     });
     for (int round = 0; round < 20; ++round) {
@@ -203,15 +203,15 @@ TEST(Threads, APaintAndOtherCallsMayRunBesideTheMouse) {
         for (float x = 150; x < 180; x += 1) {
             host.Move(x, x);
         }
-        host.container.showShape(shape, round % 2 == 0);
-        host.container.deleteShape(shape); // in the middle of the drag
+        host.container.ShowShape(shape, round % 2 == 0);
+        host.container.DeleteShape(shape); // in the middle of the drag
     }
     running = false;
     painter.join();
     caller.join();
     EXPECT_GT(drawn, 0U);
-    host.container.setTip(TheView, "");
-    host.container.selectShape(resident);
+    host.container.SetTip(TheView, "");
+    host.container.SelectShape(resident);
     EXPECT_EQ(host.Paint().size(), 6U) << "the resident with its handles, alone";
 }
 

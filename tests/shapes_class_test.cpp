@@ -106,7 +106,7 @@ TEST(LineClass, AsksItsOwnerBeforeItChanges) {
 TEST(SpotClass, StaysSolidWhenItIsConfiguredAgain) {
     struct : Surface {
         int filled = 0;
-        void fillEllipse(const PointF&, const PointF&, float, const ColorF&, const ColorF&) override { ++filled; }
+        void PaintEllipse(const PointF&, const PointF&, float, const ColorF&, const ColorF&) override { ++filled; }
     } surface;
     const ShapePtr spot = CShapeFactory::GetInstance().CreateShape("SpotShape");
     for (const char* word : {"", "solid", "outline", ""}) {

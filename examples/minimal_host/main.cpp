@@ -12,7 +12,7 @@ namespace {
 
 class PrintingSurface final : public rulecanvas::Surface {
   public:
-    void strokeRectangle(const PointF& topLeft, const PointF& bottomRight, float width, const ColorF&,
+    void StrokeRectangle(const PointF& topLeft, const PointF& bottomRight, float width, const ColorF&,
                          int32_t) override {
         std::printf("rectangle (%g, %g) to (%g, %g), width %g\n", static_cast<double>(topLeft.x),
                     static_cast<double>(topLeft.y), static_cast<double>(bottomRight.x),
@@ -32,31 +32,31 @@ int main() {
         return 1;
     }
 
-    container.onClientRect([](rulecanvas::ViewID) { return ClientRect{0, 0, 640, 480}; });
-    container.onCapture([](bool take) { std::puts(take ? "take the mouse" : "let the mouse go"); });
-    container.onNotify([](const char* text) { std::printf("event %s", text); });
-    container.enable();
+    container.OnClientRect([](rulecanvas::ViewID) { return ClientRect{0, 0, 640, 480}; });
+    container.OnCapture([](bool take) { std::puts(take ? "take the mouse" : "let the mouse go"); });
+    container.OnNotify([](const char* text) { std::printf("event %s", text); });
+    container.Enable();
 
     rulecanvas::ShapeSettings settings;
     settings.view = VIEW;
     settings.type = "Rect";
     settings.label = "intrusion";
     settings.name = "gate";
-    const rulecanvas::ShapeID shape = container.addShape(settings);
+    const rulecanvas::ShapeID shape = container.AddShape(settings);
     if (shape == 0) {
         return 1;
     }
 
     // A window procedure forwards these as they come.
-    container.sendMouse(MouseCode::leftDown, VIEW, 100, 80);
-    container.sendMouse(MouseCode::moved, VIEW, 300, 200);
-    container.sendMouse(MouseCode::leftUp, VIEW, 300, 200);
+    container.SendMouse(MouseCode::LeftDown, VIEW, 100, 80);
+    container.SendMouse(MouseCode::Moved, VIEW, 300, 200);
+    container.SendMouse(MouseCode::LeftUp, VIEW, 300, 200);
 
     // Last in the paint of the view, on top of the picture.
     PrintingSurface surface;
-    container.paint(VIEW, surface);
+    container.Paint(VIEW, surface);
 
     // What a host stores; addShape takes it back as `configuration`.
-    std::printf("geometry %s", container.configuration(shape).c_str());
+    std::printf("geometry %s", container.Configuration(shape).c_str());
     return 0;
 }

@@ -58,8 +58,8 @@ int run(const Options& options) {
     if (!options.script.empty()) {
         player.emplace(window, options.script, options.snapshots.empty() ? L"." : options.snapshots);
     }
-    ShowWindow(window.handle(), SW_SHOWNORMAL);
-    UpdateWindow(window.handle());
+    ShowWindow(window.Handle(), SW_SHOWNORMAL);
+    UpdateWindow(window.Handle());
     if (player) {
         player->start();
     } else {

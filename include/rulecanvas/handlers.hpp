@@ -1,4 +1,4 @@
-/* The two callables of a container, for hosts that keep them apart from the Container object. */
+/// The two callables of a container, for hosts that keep them apart from the Container object.
 #ifndef RULECANVAS_HANDLERS_HPP
 #define RULECANVAS_HANDLERS_HPP
 
@@ -6,76 +6,76 @@
 
 namespace rulecanvas {
 
-/* The code of a mouse or key event. What a host sends: the button codes as they happen, `moved` for every pointer move,
- * `cursorQuery` when it is about to choose a cursor (with the pointer's place as in a move), `altRightDown` for the
- * right button with Alt held, `keyDown` for keys. `movedEvent` is a move that only a drag in progress sees. */
+/// The code of a mouse or key event. What a host sends: the button codes as they happen, `Moved` for every pointer move,
+/// `CursorQuery` when it is about to choose a cursor (with the pointer's place as in a move), `AltRightDown` for the
+/// right button with Alt held, `KeyDown` for keys. `MovedEvent` is a move that only a drag in progress sees.
 enum class MouseCode : uint32_t {
-    leftDown = 1,
-    leftUp = 2,
-    moved = 3,
-    rightDown = 4,
-    rightUp = 5,
-    movedEvent = 6,
-    cursorQuery = 9,
-    altRightDown = 10,
-    keyDown = 11
+    LeftDown = 1,
+    LeftUp = 2,
+    Moved = 3,
+    RightDown = 4,
+    RightUp = 5,
+    MovedEvent = 6,
+    CursorQuery = 9,
+    AltRightDown = 10,
+    KeyDown = 11
 };
 
-/* Owns a copy of one handler; movable. Calling it when empty does nothing. End it before its container is released. */
+/// Owns a copy of one handler; movable. Calling it when empty does nothing. End it before its container is released.
 class Handler {
   public:
     Handler() = default;
-    Handler(Handler&& other) noexcept : m_holder(other.m_holder) { other.m_holder.handler = nullptr; }
+    Handler(Handler&& other) noexcept : holder(other.holder) { other.holder.handler = nullptr; }
     Handler& operator=(Handler&& other) noexcept {
-        ContainerHandler* const mine = m_holder.handler;
-        m_holder.handler = other.m_holder.handler;
-        other.m_holder.handler = mine;
+        ContainerHandler* const mine = holder.handler;
+        holder.handler = other.holder.handler;
+        other.holder.handler = mine;
         return *this;
     }
-    ~Handler() { reset(); }
+    ~Handler() { Reset(); }
 
-    /* Ends the copy. */
-    void reset() noexcept {
-        if (m_holder.handler != nullptr) {
-            m_holder.handler->table->destroy(m_holder.handler, FREE_MEMORY);
+    /// Ends the copy.
+    void Reset() noexcept {
+        if (holder.handler != nullptr) {
+            holder.handler->table->destroy(holder.handler, FreeMemory);
         }
-        m_holder.handler = nullptr;
+        holder.handler = nullptr;
     }
-    explicit operator bool() const noexcept { return m_holder.handler != nullptr; }
-    const ContainerHandler* get() const noexcept { return m_holder.handler; }
+    explicit operator bool() const noexcept { return holder.handler != nullptr; }
+    const ContainerHandler* Get() const noexcept { return holder.handler; }
 
   protected:
-    ContainerHandlerHolder* holder() noexcept { return &m_holder; }
-    void invoke(uintptr_t first, uintptr_t second) const {
-        if (m_holder.handler != nullptr) {
-            m_holder.handler->table->invoke(m_holder.handler, first, second);
+    ContainerHandlerHolder* Holder() noexcept { return &holder; }
+    void Invoke(uintptr_t first, uintptr_t second) const {
+        if (holder.handler != nullptr) {
+            holder.handler->table->invoke(holder.handler, first, second);
         }
     }
 
   private:
-    static constexpr uint32_t FREE_MEMORY = 1;
-    ContainerHandlerHolder m_holder = {nullptr, nullptr};
+    static constexpr uint32_t FreeMemory = 1;
+    ContainerHandlerHolder holder = {nullptr, nullptr};
 };
 
-/* Feeds mouse and key events. Must not run while another thread creates or deletes shapes of the container. */
+/// Feeds mouse and key events. Must not run while another thread creates or deletes shapes of the container.
 class MouseHandler : public Handler {
   public:
     MouseHandler() = default;
-    /* Fetches the handler; stays empty for an unknown container or without memory. */
-    explicit MouseHandler(ContainerHandle container) { GetContainerWinMouseEventHandler(container, holder()); }
+    /// Fetches the handler; stays empty for an unknown container or without memory.
+    explicit MouseHandler(ContainerHandle container) { GetContainerWinMouseEventHandler(container, Holder()); }
 
-    void operator()(const ContainerMouseEvent& event) const { invoke(0, reinterpret_cast<uintptr_t>(&event)); }
+    void operator()(const ContainerMouseEvent& event) const { Invoke(0, reinterpret_cast<uintptr_t>(&event)); }
 };
 
-/* Draws the figures of a view. May run on a thread of its own beside everything but the end of the container. */
+/// Draws the figures of a view. May run on a thread of its own beside everything but the end of the container.
 class DrawHandler : public Handler {
   public:
     DrawHandler() = default;
-    /* Fetches the handler; stays empty for an unknown container or without memory. */
-    explicit DrawHandler(ContainerHandle container) { GetContainerDrawEventHandler(container, holder()); }
+    /// Fetches the handler; stays empty for an unknown container or without memory.
+    explicit DrawHandler(ContainerHandle container) { GetContainerDrawEventHandler(container, Holder()); }
 
     void operator()(ViewID view, IContainerGraphics& surface) const {
-        invoke(view, reinterpret_cast<uintptr_t>(&surface));
+        Invoke(view, reinterpret_cast<uintptr_t>(&surface));
     }
 };
 

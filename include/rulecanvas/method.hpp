@@ -1,10 +1,10 @@
-/* Code that the library can call on an object of the host, and callables of the host behind it.
- *
- * Hosts need this header only for delegates that host.hpp has no typed call for. */
+/// Code that the library can call on an object of the host, and callables of the host behind it.
+///
+/// Hosts need this header only for delegates that host.hpp has no typed call for.
 #ifndef RULECANVAS_METHOD_HPP
 #define RULECANVAS_METHOD_HPP
 
-/* GCC finds it odd that code called as a method is not a member. */
+/// GCC finds it odd that code called as a method is not a member.
 #if defined(__GNUC__)
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wattributes"
@@ -14,9 +14,9 @@
 #pragma GCC diagnostic pop
 #endif
 
-/* A static function `R RULECANVAS_METHOD f(RULECANVAS_SELF, args...)` is entered as the library enters a method: on
- * 32-bit Windows the object is in ecx, edx carries nothing, the callee pops the rest. Every compiler accepts this form,
- * while `thiscall` on a function that is no member is not for all. `self` is the target of the delegate. */
+/// A static function `R RULECANVAS_METHOD f(RULECANVAS_SELF, args...)` is entered as the library enters a method: on
+/// 32-bit Windows the object is in ecx, edx carries nothing, the callee pops the rest. Every compiler accepts this form,
+/// while `thiscall` on a function that is no member is not for all. `self` is the target of the delegate.
 #if defined(_WIN32) && (defined(__i386__) || defined(_M_IX86))
 #define RULECANVAS_METHOD __fastcall
 #define RULECANVAS_SELF void *self, uintptr_t
@@ -27,15 +27,15 @@
 
 namespace rulecanvas {
 
-/* Reads a boolean that crossed the boundary: bytes above the lowest are junk. */
-constexpr bool isTrue(Bool32 value) noexcept {
+/// Reads a boolean that crossed the boundary: bytes above the lowest are junk.
+constexpr bool IsTrue(Bool32 value) noexcept {
     return (value & 0xFFU) != 0;
 }
-constexpr Bool32 toBool32(bool value) noexcept {
+constexpr Bool32 AsBool32(bool value) noexcept {
     return value ? 1U : 0U;
 }
 
-/* The target of a delegate. Lives at one address until its list ends. */
+/// The target of a delegate. Lives at one address until its list ends.
 class BoundCallable {
   public:
     BoundCallable() = default;
@@ -45,38 +45,38 @@ class BoundCallable {
 
   private:
     friend class BoundCallableList;
-    BoundCallable* m_next = nullptr;
+    BoundCallable* next = nullptr;
 };
 
-/* Owns callables and never moves or drops one while it lives, so that a callable may be replaced while it runs. */
+/// Owns callables and never moves or drops one while it lives, so that a callable may be replaced while it runs.
 class BoundCallableList {
   public:
     BoundCallableList() = default;
-    BoundCallableList(BoundCallableList&& other) noexcept : m_first(other.m_first) { other.m_first = nullptr; }
+    BoundCallableList(BoundCallableList&& other) noexcept : first(other.first) { other.first = nullptr; }
     BoundCallableList& operator=(BoundCallableList&& other) noexcept {
-        BoundCallable* const mine = m_first;
-        m_first = other.m_first;
-        other.m_first = mine;
+        BoundCallable* const mine = first;
+        first = other.first;
+        other.first = mine;
         return *this;
     }
     ~BoundCallableList() {
-        while (m_first != nullptr) {
-            BoundCallable* const next = m_first->m_next;
-            delete m_first;
-            m_first = next;
+        while (first != nullptr) {
+            BoundCallable* const next = first->next;
+            delete first;
+            first = next;
         }
     }
 
-    /* Takes over `bound`, made by new, and returns the delegate that calls its static function `run`. */
+    /// Takes over `bound`, made by new, and returns the delegate that calls its static function `run`.
     template <class Bound>
-    CDelegate add(Bound* bound) noexcept {
-        bound->m_next = m_first;
-        m_first = bound;
-        return {bound, reinterpret_cast<void*>(&Bound::run)};
+    CDelegate Add(Bound* bound) noexcept {
+        bound->next = first;
+        first = bound;
+        return {bound, reinterpret_cast<void*>(&Bound::Run)};
     }
 
   private:
-    BoundCallable* m_first = nullptr;
+    BoundCallable* first = nullptr;
 };
 
 } // namespace rulecanvas

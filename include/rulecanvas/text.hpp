@@ -1,4 +1,4 @@
-/* A text that the library gave to the host. */
+/// A text that the library gave to the host.
 #ifndef RULECANVAS_TEXT_HPP
 #define RULECANVAS_TEXT_HPP
 
@@ -10,21 +10,21 @@
 
 namespace rulecanvas {
 
-/* Owns NUL-terminated bytes; movable. Empty when the library had nothing to say. */
+/// Owns NUL-terminated bytes; movable. Empty when the library had nothing to say.
 class Text {
   public:
     Text() = default;
-    Text(Text&& other) noexcept : m_bytes(other.m_bytes) { other.m_bytes = nullptr; }
+    Text(Text&& other) noexcept : bytes(other.bytes) { other.bytes = nullptr; }
     Text& operator=(Text&& other) noexcept {
-        char* const mine = m_bytes;
-        m_bytes = other.m_bytes;
-        other.m_bytes = mine;
+        char* const mine = bytes;
+        bytes = other.bytes;
+        other.bytes = mine;
         return *this;
     }
-    ~Text() { delete[] m_bytes; }
+    ~Text() { delete[] bytes; }
 
-    /* Never null; valid while this object keeps its text. */
-    const char* c_str() const noexcept { return m_bytes != nullptr ? m_bytes : ""; }
+    /// Never null; valid while this object keeps its text.
+    const char* c_str() const noexcept { return bytes != nullptr ? bytes : ""; }
     bool empty() const noexcept { return *c_str() == '\0'; }
 #if __STDC_HOSTED__
     std::string str() const {
@@ -32,17 +32,17 @@ class Text {
     }
 #endif
 
-    /* Calls `copied(char* buffer, int32_t size)` with growing buffers until it answers true; empty when it never does.
-     * Texts of 16 MiB and more count as absent. */
+    /// Calls `copied(char* buffer, int32_t size)` with growing buffers until it answers true; empty when it never does.
+    /// Texts of 16 MiB and more count as absent.
     template <class Copied>
-    static Text readWith(Copied copied) {
-        for (int32_t size = SMALLEST; size <= LARGEST; size *= GROWTH) {
+    static Text ReadWith(Copied copied) {
+        for (int32_t size = Smallest; size <= Largest; size *= Growth) {
             Text text;
-            text.m_bytes = new char[static_cast<uint32_t>(size) + 1U];
-            text.m_bytes[0] = '\0';
-            /* Some texts may fill the size that is told without a terminating zero. */
-            text.m_bytes[size] = '\0';
-            if (copied(text.m_bytes, size)) {
+            text.bytes = new char[static_cast<uint32_t>(size) + 1U];
+            text.bytes[0] = '\0';
+            /// Some texts may fill the size that is told without a terminating zero.
+            text.bytes[size] = '\0';
+            if (copied(text.bytes, size)) {
                 return text;
             }
         }
@@ -50,11 +50,11 @@ class Text {
     }
 
   private:
-    static constexpr int32_t SMALLEST = 4 * 1024;
-    static constexpr int32_t GROWTH = 16;
-    static constexpr int32_t LARGEST = 16 * 1024 * 1024;
+    static constexpr int32_t Smallest = 4 * 1024;
+    static constexpr int32_t Growth = 16;
+    static constexpr int32_t Largest = 16 * 1024 * 1024;
 
-    char* m_bytes = nullptr;
+    char* bytes = nullptr;
 };
 
 } // namespace rulecanvas

@@ -14,7 +14,7 @@ namespace {
 
 class Canvas final : public rulecanvas::Surface {
   public:
-    void drawString(const rulecanvas::PointF&, const rulecanvas::TextStyle&, const char*) override {}
+    void DrawString(const rulecanvas::PointF&, const rulecanvas::TextStyle&, const char*) override {}
 };
 
 } // namespace
@@ -24,13 +24,13 @@ void UseEverything();
 void UseEverything() {
     rulecanvas::HostObject host([] {}, [](uint32_t) {});
     rulecanvas::Container container(&host);
-    container.onNotify([](const char*) {});
-    container.onClientRect([](rulecanvas::ViewID) { return rulecanvas::ClientRect{0, 0, 8, 8}; });
-    container.onCapture([](bool) {});
-    container.sendMouse(rulecanvas::MouseCode::moved, 1, 2.0F, 3.0F);
-    container.sendKey(1, 27);
+    container.OnNotify([](const char*) {});
+    container.OnClientRect([](rulecanvas::ViewID) { return rulecanvas::ClientRect{0, 0, 8, 8}; });
+    container.OnCapture([](bool) {});
+    container.SendMouse(rulecanvas::MouseCode::Moved, 1, 2.0F, 3.0F);
+    container.SendKey(1, 27);
     Canvas canvas;
-    container.paint(1, canvas);
-    const rulecanvas::Text text = container.configuration(container.addShape({}));
-    container.setTip(1, text.c_str());
+    container.Paint(1, canvas);
+    const rulecanvas::Text text = container.Configuration(container.AddShape({}));
+    container.SetTip(1, text.c_str());
 }

@@ -12,8 +12,8 @@ constexpr ViewID View = 3;
 
 ShapeID Add(Container& container, const char* type, const char* configuration, const char* option,
             const char* caption) {
-    const ShapeID shape = container.addShape({View, type, "label", "zone", configuration, option});
-    container.setCaption(shape, caption);
+    const ShapeID shape = container.AddShape({View, type, "label", "zone", configuration, option});
+    container.SetCaption(shape, caption);
     return shape;
 }
 
@@ -40,9 +40,9 @@ void CheckDrawing(Container& container) {
     Add(container, "SpotShape", "{\"zone\":[[8191,8191]]}", "", "ring");
     Add(container, "SpotShape", "{\"zone\":[[0,0]],\"radius\":8}", "solid", "disc");
     const char* const mosaic = "{\"mosaic\":{\"enable\":true,\"size\":50}}";
-    container.selectShape(Add(container, "Rect", "{\"zone\":[[1024,2048],[2048,4096]]}", mosaic, "box"), false);
+    container.SelectShape(Add(container, "Rect", "{\"zone\":[[1024,2048],[2048,4096]]}", mosaic, "box"), false);
     Canvas canvas;
-    container.paint(View, canvas);
+    container.Paint(View, canvas);
     ExpectCalls("all drawing operations arrive, floats and records come through",
                 "line (0,0)-(200,300) width 2 255,255,0@1 pen 0\n"
                 "caption 'line' of 2 points in 0,0,400,300\n"
@@ -73,18 +73,18 @@ void RunHelperHost() {
     CheckSurface();
     HostObject host([] { Write("redraw\n"); }, [](uint32_t value) { Write("hint %u\n", value); });
     Container made(&host);
-    made.onNotify([](const char* text) { Write("notify %s", text); });
-    made.onClientRect([](ViewID) { return ClientRect{0, 0, 400, 300}; });
-    made.onCapture([](bool take) { Write("capture %d\n", take); });
+    made.OnNotify([](const char* text) { Write("notify %s", text); });
+    made.OnClientRect([](ViewID) { return ClientRect{0, 0, 400, 300}; });
+    made.OnCapture([](bool take) { Write("capture %d\n", take); });
     Container container(static_cast<Container&&>(made));
-    Expect("a container moves, the one it came from is empty", container && !made && container.enable());
+    Expect("a container moves, the one it came from is empty", container && !made && container.Enable());
 
     const ShapeID shape = Add(container, "Rect", "", "", "");
-    container.sendMouse(MouseCode::leftDown, View, 10, 20);
-    container.sendMouse(MouseCode::moved, View, 110, 70);
-    container.sendMouse(MouseCode::leftUp, View, 110, 70);
-    container.sendMouse(MouseCode::leftDown, View, 50, 50);
-    container.sendMouse(MouseCode::cursorQuery, View, 50, 50);
+    container.SendMouse(MouseCode::LeftDown, View, 10, 20);
+    container.SendMouse(MouseCode::Moved, View, 110, 70);
+    container.SendMouse(MouseCode::LeftUp, View, 110, 70);
+    container.SendMouse(MouseCode::LeftDown, View, 50, 50);
+    container.SendMouse(MouseCode::CursorQuery, View, 50, 50);
     ExpectCalls("a rectangle is drawn and grabbed",
                 "notify {\"EventName\":\"label\",\"EventParam\":{\"ShapeID\":%u.0,\"ShapeName\":\"\"}}\n"
                 "capture 1\nredraw\ncapture 0\nnotify {\"EventName\":\"label\",\"EventParam\":{\"PreShapeState\":2,"
@@ -93,12 +93,12 @@ void RunHelperHost() {
                 "capture 1\nhint 4\n",
                 shape, shape, shape);
     Expect("the configuration is read",
-           strcmp(container.configuration(shape).c_str(), "{\"zone\":[[205,546],[2253,1911]]}\n") == 0);
-    container.ignoreNotifications();
-    container.deleteAllShapes();
+           strcmp(container.Configuration(shape).c_str(), "{\"zone\":[[205,546],[2253,1911]]}\n") == 0);
+    container.IgnoreNotifications();
+    container.DeleteAllShapes();
     ExpectCalls("it gives the mouse back", "capture 0\n");
     CheckDrawing(container);
-    container.deleteAllShapes();
+    container.DeleteAllShapes();
     ExpectCalls("spots give the mouse back when they end", "capture 0\ncapture 0\n");
 }
 

@@ -21,42 +21,42 @@ void Expect(const char* what, bool met);
 /// Writes down what is drawn; every text is 41.5 wide and 12.5 high.
 class Canvas final : public Surface {
   public:
-    void strokeLine(const PointF& a, const PointF& b, float width, const ColorF& colour, int32_t pen) override {
+    void StrokeLine(const PointF& a, const PointF& b, float width, const ColorF& colour, int32_t pen) override {
         WriteStroke("line", a, b, width, colour, pen);
     }
-    void strokeRectangle(const PointF& a, const PointF& b, float width, const ColorF& colour, int32_t pen) override {
+    void StrokeRectangle(const PointF& a, const PointF& b, float width, const ColorF& colour, int32_t pen) override {
         WriteStroke("rect", a, b, width, colour, pen);
     }
-    void strokeEllipse(const PointF& a, const PointF& b, float width, const ColorF& colour) override {
+    void StrokeEllipse(const PointF& a, const PointF& b, float width, const ColorF& colour) override {
         WriteStroke("ellipse", a, b, width, colour);
     }
-    void fillEllipse(const PointF& a, const PointF& b, float width, const ColorF& fill, const ColorF& edge) override {
+    void PaintEllipse(const PointF& a, const PointF& b, float width, const ColorF& fill, const ColorF& edge) override {
         WriteStroke("disc", a, b, width, fill);
         WriteStroke("outline", a, b, width, edge);
     }
-    void fillRectangle(const PointF& a, const PointF& b, const ColorF& colour) override {
+    void PaintRectangle(const PointF& a, const PointF& b, const ColorF& colour) override {
         WriteStroke("fill", a, b, 0, colour);
     }
-    void drawString(const PointF& at, const TextStyle& style, const char* text) override {
+    void DrawString(const PointF& at, const TextStyle& style, const char* text) override {
         Write("at (%g,%g) ", at.x, at.y);
         WriteStyled("text", style, text);
     }
-    float stringWidth(const TextStyle& style, const char* text) override {
+    float StringWidth(const TextStyle& style, const char* text) override {
         WriteStyled("width of", style, text);
         return 41.5F;
     }
-    float stringHeight(const TextStyle& style, const char* text) override {
+    float StringHeight(const TextStyle& style, const char* text) override {
         WriteStyled("height of", style, text);
         return 12.5F;
     }
-    void drawCaption(const char* text, const PointF* points, int32_t count, const ColorF& colour,
+    void DrawCaption(const char* text, const PointF* points, int32_t count, const ColorF& colour,
                      const ClientRect& clip) override {
         Write("caption '%s' of %d points in %d,%d,%d,%d\n", text, count, clip.left, clip.top, clip.right, clip.bottom);
         WriteStroke("points", points[0], points[count - 1], 0, colour);
     }
-    void beginLayer() override { Write("layer\n"); }
-    void sizeLayer(int32_t width, int32_t height) override { Write("layer of %dx%d\n", width, height); }
-    void endLayer(int32_t x, int32_t y) override { Write("layer at %d,%d\n", x, y); }
+    void OpenLayer() override { Write("layer\n"); }
+    void SizeLayer(int32_t width, int32_t height) override { Write("layer of %dx%d\n", width, height); }
+    void CloseLayer(int32_t x, int32_t y) override { Write("layer at %d,%d\n", x, y); }
 
   private:
     static void WriteStroke(const char* what, const PointF& from, const PointF& to, float width, const ColorF& colour,

@@ -38,19 +38,19 @@ ScenarioHost::ScenarioHost(int width, int height)
     : clientRect{0, 0, width, height},
       hostObject([this] { Write("redraw"); }, [this](uint32_t value) { Write("hint " + std::to_string(value)); }),
       container(&hostObject) {
-    container.onNotify([this](const char* text) {
+    container.OnNotify([this](const char* text) {
         lastEventText = text;
         Write(Shortened(lastEventText));
     });
-    container.onClientRect([this](ViewID view) {
+    container.OnClientRect([this](ViewID view) {
         Tell("client rect");
         return view == 0 ? rectOfViewZero.value_or(clientRect) : clientRect;
     });
-    container.onCapture([this](bool take) {
+    container.OnCapture([this](bool take) {
         Write(take ? "capture on" : "capture off");
         return true;
     });
-    container.enable();
+    container.Enable();
 }
 
 void ScenarioHost::Write(const std::string& entry) {
@@ -78,7 +78,7 @@ ShapeID ScenarioHost::Add(const char* type, const std::string& config, const std
     settings.name = "rule";
     settings.configuration = config.c_str();
     settings.option = option.c_str();
-    const ShapeID shape = container.addShape(settings);
+    const ShapeID shape = container.AddShape(settings);
     log.clear();
     return shape;
 }
@@ -95,17 +95,17 @@ void ScenarioHost::Drag(const PointF& from, const PointF& to) {
 }
 
 void ScenarioHost::Send(uint32_t code, float x, float y, ViewID view) {
-    container.sendMouse(static_cast<MouseCode>(code), view, x, y);
+    container.SendMouse(static_cast<MouseCode>(code), view, x, y);
 }
 
 Lines ScenarioHost::Paint(ViewID view) {
     RecordingSurface surface([this] { Tell("drawing"); });
-    container.paint(view, surface);
+    container.Paint(view, surface);
     return surface.calls;
 }
 
 std::string ScenarioHost::Config(ShapeID shape) {
-    std::string text = container.configuration(shape).str();
+    std::string text = container.Configuration(shape).str();
     if (!text.empty() && text.back() == '\n') {
         text.pop_back();
     }

@@ -111,7 +111,7 @@ void Canvas::blend(int x, int y, uint32_t rgb, float alpha) {
 
 /* Blends the colour into each pixel of the box, widened by `margin`, as far as coverage(centre of the pixel) says. */
 template <class Coverage>
-void Canvas::paint(PointF corner1, PointF corner2, float margin, const ColorF& colour, Coverage coverage) {
+void Canvas::Paint(PointF corner1, PointF corner2, float margin, const ColorF& colour, Coverage coverage) {
     const int left = pixelAt(std::min(corner1.x, corner2.x) - margin, m_size.width);
     const int right = pixelAt(std::max(corner1.x, corner2.x) + margin + 1.0F, m_size.width);
     const int top = pixelAt(std::min(corner1.y, corner2.y) - margin, m_size.height);
@@ -128,12 +128,12 @@ void Canvas::paint(PointF corner1, PointF corner2, float margin, const ColorF& c
     }
 }
 
-void Canvas::strokeLine(PointF from, PointF to, float width, const ColorF& colour, bool patterned) {
+void Canvas::StrokeLine(PointF from, PointF to, float width, const ColorF& colour, bool patterned) {
     const float half = std::max(width, 1.0F) / 2.0F;
     const PointF start = aligned(from, width);
     const PointF end = aligned(to, width);
     const Segment segment(start, end);
-    paint(start, end, half + 1.0F, colour, [&](PointF p) {
+    Paint(start, end, half + 1.0F, colour, [&](PointF p) {
         if (patterned && std::fmod(segment.along(p), DASH_PERIOD) > DASH_LENGTH) {
             return 0.0F;
         }
@@ -141,34 +141,34 @@ void Canvas::strokeLine(PointF from, PointF to, float width, const ColorF& colou
     });
 }
 
-void Canvas::strokeRectangle(PointF corner1, PointF corner2, float width, const ColorF& colour, bool patterned) {
+void Canvas::StrokeRectangle(PointF corner1, PointF corner2, float width, const ColorF& colour, bool patterned) {
     const PointF corner3 = {corner2.x, corner1.y};
     const PointF corner4 = {corner1.x, corner2.y};
-    strokeLine(corner1, corner3, width, colour, patterned);
-    strokeLine(corner3, corner2, width, colour, patterned);
-    strokeLine(corner2, corner4, width, colour, patterned);
-    strokeLine(corner4, corner1, width, colour, patterned);
+    StrokeLine(corner1, corner3, width, colour, patterned);
+    StrokeLine(corner3, corner2, width, colour, patterned);
+    StrokeLine(corner2, corner4, width, colour, patterned);
+    StrokeLine(corner4, corner1, width, colour, patterned);
 }
 
-void Canvas::strokeEllipse(PointF corner1, PointF corner2, float width, const ColorF& colour) {
+void Canvas::StrokeEllipse(PointF corner1, PointF corner2, float width, const ColorF& colour) {
     const float half = std::max(width, 1.0F) / 2.0F;
     const PointF start = aligned(corner1, width);
     const PointF end = aligned(corner2, width);
     const EllipseOutline outline(start, end);
-    paint(start, end, half + 1.0F, colour, [&](PointF p) { return softEdge(half - std::fabs(outline.distance(p))); });
+    Paint(start, end, half + 1.0F, colour, [&](PointF p) { return softEdge(half - std::fabs(outline.distance(p))); });
 }
 
-void Canvas::fillEllipse(PointF corner1, PointF corner2, const ColorF& colour) {
+void Canvas::PaintEllipse(PointF corner1, PointF corner2, const ColorF& colour) {
     const EllipseOutline outline(corner1, corner2);
-    paint(corner1, corner2, 1.0F, colour, [&](PointF p) { return softEdge(-outline.distance(p)); });
+    Paint(corner1, corner2, 1.0F, colour, [&](PointF p) { return softEdge(-outline.distance(p)); });
 }
 
-void Canvas::fillRectangle(PointF corner1, PointF corner2, const ColorF& colour) {
+void Canvas::PaintRectangle(PointF corner1, PointF corner2, const ColorF& colour) {
     const float left = std::min(corner1.x, corner2.x);
     const float right = std::max(corner1.x, corner2.x);
     const float top = std::min(corner1.y, corner2.y);
     const float bottom = std::max(corner1.y, corner2.y);
-    paint(corner1, corner2, 1.0F, colour, [&](PointF p) {
+    Paint(corner1, corner2, 1.0F, colour, [&](PointF p) {
         const float across = std::min(p.x - left, right - p.x);
         const float down = std::min(p.y - top, bottom - p.y);
         return softEdge(std::min(across, down));

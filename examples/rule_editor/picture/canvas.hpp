@@ -16,21 +16,21 @@ class Canvas {
     /* `pixels` stay the caller's: rows from the top, 0x00RRGGBB. */
     Canvas(uint32_t* pixels, Size size) : m_pixels(pixels), m_size(size) {}
 
-    void strokeLine(rulecanvas::PointF from, rulecanvas::PointF to, float width, const rulecanvas::ColorF& colour,
+    void StrokeLine(rulecanvas::PointF from, rulecanvas::PointF to, float width, const rulecanvas::ColorF& colour,
                     bool patterned);
-    void strokeRectangle(rulecanvas::PointF corner1, rulecanvas::PointF corner2, float width,
+    void StrokeRectangle(rulecanvas::PointF corner1, rulecanvas::PointF corner2, float width,
                          const rulecanvas::ColorF& colour, bool patterned);
-    void strokeEllipse(rulecanvas::PointF corner1, rulecanvas::PointF corner2, float width,
+    void StrokeEllipse(rulecanvas::PointF corner1, rulecanvas::PointF corner2, float width,
                        const rulecanvas::ColorF& colour);
-    void fillEllipse(rulecanvas::PointF corner1, rulecanvas::PointF corner2, const rulecanvas::ColorF& colour);
-    void fillRectangle(rulecanvas::PointF corner1, rulecanvas::PointF corner2, const rulecanvas::ColorF& colour);
+    void PaintEllipse(rulecanvas::PointF corner1, rulecanvas::PointF corner2, const rulecanvas::ColorF& colour);
+    void PaintRectangle(rulecanvas::PointF corner1, rulecanvas::PointF corner2, const rulecanvas::ColorF& colour);
 
     /* One pixel; outside is ignored. `alpha` 0..1. */
     void blend(int x, int y, uint32_t rgb, float alpha);
 
   private:
     template <class Coverage>
-    void paint(rulecanvas::PointF corner1, rulecanvas::PointF corner2, float margin, const rulecanvas::ColorF& colour,
+    void Paint(rulecanvas::PointF corner1, rulecanvas::PointF corner2, float margin, const rulecanvas::ColorF& colour,
                Coverage coverage);
 
     uint32_t* m_pixels;

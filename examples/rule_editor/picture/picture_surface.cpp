@@ -52,48 +52,48 @@ PictureSurface::PictureSurface(uint32_t* pixels, Size size, FontBook& fonts)
     m_graphics.SetTextRenderingHint(Gdiplus::TextRenderingHintAntiAlias);
 }
 
-void PictureSurface::strokeLine(const PointF& from, const PointF& to, float width, const ColorF& colour,
+void PictureSurface::StrokeLine(const PointF& from, const PointF& to, float width, const ColorF& colour,
                                 int32_t penStyle) {
-    m_canvas.strokeLine(from, to, width, colour, penStyle == PATTERNED);
+    m_canvas.StrokeLine(from, to, width, colour, penStyle == PATTERNED);
 }
 
-void PictureSurface::strokeRectangle(const PointF& topLeft, const PointF& bottomRight, float width,
+void PictureSurface::StrokeRectangle(const PointF& topLeft, const PointF& bottomRight, float width,
                                      const ColorF& colour, int32_t penStyle) {
-    m_canvas.strokeRectangle(topLeft, bottomRight, width, colour, penStyle == PATTERNED);
+    m_canvas.StrokeRectangle(topLeft, bottomRight, width, colour, penStyle == PATTERNED);
 }
 
-void PictureSurface::strokeEllipse(const PointF& corner1, const PointF& corner2, float width, const ColorF& colour) {
-    m_canvas.strokeEllipse(corner1, corner2, width, colour);
+void PictureSurface::StrokeEllipse(const PointF& corner1, const PointF& corner2, float width, const ColorF& colour) {
+    m_canvas.StrokeEllipse(corner1, corner2, width, colour);
 }
 
-void PictureSurface::fillEllipse(const PointF& corner1, const PointF& corner2, float width, const ColorF& fill,
-                                 const ColorF& outline) {
-    m_canvas.fillEllipse(corner1, corner2, fill);
-    m_canvas.strokeEllipse(corner1, corner2, width, outline);
+void PictureSurface::PaintEllipse(const PointF& corner1, const PointF& corner2, float width, const ColorF& fill,
+                                  const ColorF& outline) {
+    m_canvas.PaintEllipse(corner1, corner2, fill);
+    m_canvas.StrokeEllipse(corner1, corner2, width, outline);
 }
 
-void PictureSurface::fillRectangle(const PointF& topLeft, const PointF& bottomRight, const ColorF& colour) {
+void PictureSurface::PaintRectangle(const PointF& topLeft, const PointF& bottomRight, const ColorF& colour) {
     if (m_layerOpen) {
         m_layer.push_back({topLeft, bottomRight, colour});
     } else {
-        m_canvas.fillRectangle(topLeft, bottomRight, colour);
+        m_canvas.PaintRectangle(topLeft, bottomRight, colour);
     }
 }
 
-void PictureSurface::drawString(const PointF& at, const TextStyle& style, const char* text) {
+void PictureSurface::DrawString(const PointF& at, const TextStyle& style, const char* text) {
     drawOutlined(toWide(text), m_fonts.find(style), Gdiplus::PointF(at.x, at.y), captionColour(style.colour));
 }
 
-float PictureSurface::stringWidth(const TextStyle& style, const char* text) {
+float PictureSurface::StringWidth(const TextStyle& style, const char* text) {
     return measure(m_fonts.find(style), toWide(text)).Width;
 }
 
-float PictureSurface::stringHeight(const TextStyle& style, const char* text) {
+float PictureSurface::StringHeight(const TextStyle& style, const char* text) {
     return measure(m_fonts.find(style), toWide(text)).Height;
 }
 
 /* Above the first point of the figure, or below it where there is no room, and never outside the clip. */
-void PictureSurface::drawCaption(const char* text, const PointF* points, int32_t count, const ColorF& colour,
+void PictureSurface::DrawCaption(const char* text, const PointF* points, int32_t count, const ColorF& colour,
                                  const ClientRect& clip) {
     if (count <= 0 || *text == '\0') {
         return;
@@ -114,18 +114,18 @@ void PictureSurface::drawCaption(const char* text, const PointF* points, int32_t
     m_graphics.ResetClip();
 }
 
-void PictureSurface::beginLayer() {
+void PictureSurface::OpenLayer() {
     m_layerOpen = true;
     m_layerSize = {};
     m_layer.clear();
 }
 
-void PictureSurface::sizeLayer(int32_t width, int32_t height) {
+void PictureSurface::SizeLayer(int32_t width, int32_t height) {
     m_layerSize = {width, height};
 }
 
 /* Fills do not overlap each other in a layer, so they can be blended into the picture one by one. */
-void PictureSurface::endLayer(int32_t x, int32_t y) {
+void PictureSurface::CloseLayer(int32_t x, int32_t y) {
     const auto left = static_cast<float>(x);
     const auto top = static_cast<float>(y);
     const auto width = static_cast<float>(m_layerSize.width);
@@ -135,7 +135,7 @@ void PictureSurface::endLayer(int32_t x, int32_t y) {
         const PointF topLeft = {left + inside(fill.topLeft.x, 0.0F, width), top + inside(fill.topLeft.y, 0.0F, height)};
         const PointF bottomRight = {left + inside(fill.bottomRight.x, 0.0F, width),
                                     top + inside(fill.bottomRight.y, 0.0F, height)};
-        m_canvas.fillRectangle(topLeft, bottomRight, fill.colour);
+        m_canvas.PaintRectangle(topLeft, bottomRight, fill.colour);
     }
     m_layer.clear();
 }

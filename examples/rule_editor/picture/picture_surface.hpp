@@ -17,26 +17,26 @@ class PictureSurface final : public rulecanvas::Surface {
     /* Pixels and fonts must live as long as the surface. */
     PictureSurface(uint32_t* pixels, Size size, FontBook& fonts);
 
-    void strokeLine(const rulecanvas::PointF& from, const rulecanvas::PointF& to, float width,
+    void StrokeLine(const rulecanvas::PointF& from, const rulecanvas::PointF& to, float width,
                     const rulecanvas::ColorF& colour, int32_t penStyle) override;
-    void strokeRectangle(const rulecanvas::PointF& topLeft, const rulecanvas::PointF& bottomRight, float width,
+    void StrokeRectangle(const rulecanvas::PointF& topLeft, const rulecanvas::PointF& bottomRight, float width,
                          const rulecanvas::ColorF& colour, int32_t penStyle) override;
-    void strokeEllipse(const rulecanvas::PointF& corner1, const rulecanvas::PointF& corner2, float width,
+    void StrokeEllipse(const rulecanvas::PointF& corner1, const rulecanvas::PointF& corner2, float width,
                        const rulecanvas::ColorF& colour) override;
-    void fillEllipse(const rulecanvas::PointF& corner1, const rulecanvas::PointF& corner2, float width,
-                     const rulecanvas::ColorF& fill, const rulecanvas::ColorF& outline) override;
-    void fillRectangle(const rulecanvas::PointF& topLeft, const rulecanvas::PointF& bottomRight,
-                       const rulecanvas::ColorF& colour) override;
+    void PaintEllipse(const rulecanvas::PointF& corner1, const rulecanvas::PointF& corner2, float width,
+                      const rulecanvas::ColorF& fill, const rulecanvas::ColorF& outline) override;
+    void PaintRectangle(const rulecanvas::PointF& topLeft, const rulecanvas::PointF& bottomRight,
+                        const rulecanvas::ColorF& colour) override;
 
-    void drawString(const rulecanvas::PointF& at, const rulecanvas::TextStyle& style, const char* text) override;
-    float stringWidth(const rulecanvas::TextStyle& style, const char* text) override;
-    float stringHeight(const rulecanvas::TextStyle& style, const char* text) override;
-    void drawCaption(const char* text, const rulecanvas::PointF* points, int32_t count,
+    void DrawString(const rulecanvas::PointF& at, const rulecanvas::TextStyle& style, const char* text) override;
+    float StringWidth(const rulecanvas::TextStyle& style, const char* text) override;
+    float StringHeight(const rulecanvas::TextStyle& style, const char* text) override;
+    void DrawCaption(const char* text, const rulecanvas::PointF* points, int32_t count,
                      const rulecanvas::ColorF& colour, const rulecanvas::ClientRect& clip) override;
 
-    void beginLayer() override;
-    void sizeLayer(int32_t width, int32_t height) override;
-    void endLayer(int32_t x, int32_t y) override;
+    void OpenLayer() override;
+    void SizeLayer(int32_t width, int32_t height) override;
+    void CloseLayer(int32_t x, int32_t y) override;
 
   private:
     struct LayerFill {

@@ -15,10 +15,10 @@ using rulecanvas::ShapeID;
 Scene::Scene(SceneHost host)
     : m_host(std::move(host)), m_hostObject([this] { m_host.redraw(); }, [this](uint32_t) { m_hinted = true; }),
       m_container(&m_hostObject) {
-    m_container.onNotify([this](const char* text) { onNotification(text); });
-    m_container.onClientRect([this](rulecanvas::ViewID) { return m_host.clientRect(); });
-    m_container.onCapture([this](bool take) { onCapture(take); });
-    m_container.enable();
+    m_container.OnNotify([this](const char* text) { onNotification(text); });
+    m_container.OnClientRect([this](rulecanvas::ViewID) { return m_host.clientRect(); });
+    m_container.OnCapture([this](bool take) { OnCapture(take); });
+    m_container.Enable();
 }
 
 bool Scene::add(Rule rule) {
@@ -41,7 +41,7 @@ bool Scene::add(Rule rule) {
     const std::string configuration = configurationToPass(entry.rule);
     settings.configuration = configuration.c_str();
     m_beingAdded = &entry;
-    entry.shape = m_container.addShape(settings);
+    entry.shape = m_container.AddShape(settings);
     m_beingAdded = nullptr;
     if (entry.shape == 0) {
         return false;
@@ -61,24 +61,24 @@ bool Scene::add(Rule rule) {
  * which may as well go nowhere. */
 int Scene::stateAsGiven(ShapeID shape) const {
     rulecanvas::Surface nowhere;
-    m_container.paint(VIEW, nowhere);
-    return m_container.configuration(shape).empty() ? STATE_WAITING : STATE_COMPLETE;
+    m_container.Paint(VIEW, nowhere);
+    return m_container.Configuration(shape).empty() ? STATE_WAITING : STATE_COMPLETE;
 }
 
 void Scene::applyLook(const SceneEntry& entry) {
     const Rule& rule = entry.rule;
     if (!rule.caption.empty()) {
-        m_container.setCaption(entry.shape, rule.caption.c_str());
+        m_container.SetCaption(entry.shape, rule.caption.c_str());
     }
     if (rule.direction) {
-        m_container.setDirection(entry.shape, *rule.direction);
+        m_container.SetDirection(entry.shape, *rule.direction);
     }
     if (rule.selectedColour) {
-        m_container.setColour(entry.shape, Outline::selected, rule.selectedColour->red, rule.selectedColour->green,
+        m_container.SetColour(entry.shape, Outline::Selected, rule.selectedColour->red, rule.selectedColour->green,
                               rule.selectedColour->blue);
     }
     if (rule.unselectedColour) {
-        m_container.setColour(entry.shape, Outline::unselected, rule.unselectedColour->red,
+        m_container.SetColour(entry.shape, Outline::Unselected, rule.unselectedColour->red,
                               rule.unselectedColour->green, rule.unselectedColour->blue);
     }
 }
@@ -87,13 +87,13 @@ void Scene::remove(size_t index) {
     if (index >= m_entries.size()) {
         return;
     }
-    m_container.deleteShape(m_entries[index].shape);
+    m_container.DeleteShape(m_entries[index].shape);
     m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(index));
     m_host.redraw();
 }
 
 void Scene::clear() {
-    m_container.deleteAllShapes();
+    m_container.DeleteAllShapes();
     m_entries.clear();
     m_counter = 0;
     m_host.redraw();
@@ -117,7 +117,7 @@ void Scene::abandonUnfinished() {
 
 void Scene::select(size_t index) {
     for (size_t i = 0; i < m_entries.size(); ++i) {
-        m_container.selectShape(m_entries[i].shape, i == index);
+        m_container.SelectShape(m_entries[i].shape, i == index);
     }
     m_host.redraw();
 }
@@ -126,7 +126,7 @@ std::vector<bool> Scene::selection() const {
     Json::Value states;
     std::string problem;
     std::vector<bool> selected(m_entries.size(), false);
-    if (!parseJson(rulecanvas::allShapeStates().str(), states, problem) || !states.isArray()) {
+    if (!parseJson(rulecanvas::AllShapeStates().str(), states, problem) || !states.isArray()) {
         return selected;
     }
     for (const Json::Value& state : states) {
@@ -141,29 +141,29 @@ std::vector<bool> Scene::selection() const {
 }
 
 void Scene::show(size_t index, bool visible) {
-    m_container.showShape(m_entries.at(index).shape, visible);
+    m_container.ShowShape(m_entries.at(index).shape, visible);
     m_host.redraw();
 }
 
-void Scene::setPointLimits(size_t index, int32_t maximum, int32_t minimum) {
-    m_container.setPointLimits(m_entries.at(index).shape, maximum, minimum);
+void Scene::SetPointLimits(size_t index, int32_t maximum, int32_t minimum) {
+    m_container.SetPointLimits(m_entries.at(index).shape, maximum, minimum);
 }
 
-void Scene::setDirection(size_t index, int32_t direction) {
+void Scene::SetDirection(size_t index, int32_t direction) {
     m_entries.at(index).rule.direction = direction;
     applyLook(m_entries[index]);
     m_host.redraw();
 }
 
-void Scene::setColour(size_t index, Outline outline, Colour colour) {
+void Scene::SetColour(size_t index, Outline outline, Colour colour) {
     Rule& rule = m_entries.at(index).rule;
-    (outline == Outline::selected ? rule.selectedColour : rule.unselectedColour) = colour;
+    (outline == Outline::Selected ? rule.selectedColour : rule.unselectedColour) = colour;
     applyLook(m_entries[index]);
     m_host.redraw();
 }
 
-std::string Scene::configuration(size_t index) const {
-    const std::string text = m_container.configuration(m_entries.at(index).shape).str();
+std::string Scene::Configuration(size_t index) const {
+    const std::string text = m_container.Configuration(m_entries.at(index).shape).str();
     return text.substr(0, text.find_last_not_of("\r\n") + 1);
 }
 
@@ -174,7 +174,7 @@ void Scene::save(const std::wstring& path) const {
             continue;
         }
         rules.push_back(m_entries[i].rule);
-        rules.back().configuration = configuration(i);
+        rules.back().configuration = Configuration(i);
     }
     saveRules(path, rules);
 }
@@ -190,24 +190,24 @@ void Scene::load(const std::wstring& path) {
     select(m_entries.size());
 }
 
-void Scene::sendMouse(MouseCode code, float x, float y) {
-    m_container.sendMouse(code, VIEW, x, y);
+void Scene::SendMouse(MouseCode code, float x, float y) {
+    m_container.SendMouse(code, VIEW, x, y);
     removeDeleted();
     noticeSilentCompletion();
 }
 
-void Scene::sendKey(uint16_t virtualKey) {
-    m_container.sendKey(VIEW, virtualKey);
+void Scene::SendKey(uint16_t virtualKey) {
+    m_container.SendKey(VIEW, virtualKey);
     removeDeleted();
 }
 
 bool Scene::wouldGrab(float x, float y) {
     m_hinted = false;
-    m_container.sendMouse(MouseCode::cursorQuery, VIEW, x, y);
+    m_container.SendMouse(MouseCode::CursorQuery, VIEW, x, y);
     return m_hinted;
 }
 
-void Scene::onCapture(bool take) {
+void Scene::OnCapture(bool take) {
     m_host.log(take ? "mouse captured" : "mouse released");
     m_host.captureMouse(take);
 }
@@ -237,7 +237,7 @@ const SceneEntry* Scene::entryOf(ShapeID shape) const {
 
 void Scene::noticeSilentCompletion() {
     const size_t index = unfinished();
-    if (index < m_entries.size() && !tellsWhenComplete(m_entries[index].rule.type) && !configuration(index).empty()) {
+    if (index < m_entries.size() && !tellsWhenComplete(m_entries[index].rule.type) && !Configuration(index).empty()) {
         m_entries[index].state = STATE_COMPLETE;
     }
 }

@@ -52,30 +52,30 @@ class Scene {
     /* For each rule whether it is selected. */
     std::vector<bool> selection() const;
     void show(size_t index, bool visible);
-    void setPointLimits(size_t index, int32_t maximum, int32_t minimum);
-    void setDirection(size_t index, int32_t direction);
-    void setColour(size_t index, rulecanvas::Outline outline, Colour colour);
-    std::string configuration(size_t index) const;
+    void SetPointLimits(size_t index, int32_t maximum, int32_t minimum);
+    void SetDirection(size_t index, int32_t direction);
+    void SetColour(size_t index, rulecanvas::Outline outline, Colour colour);
+    std::string Configuration(size_t index) const;
 
     void save(const std::wstring& path) const;
     /* Replaces the rules by those of the file, none of them selected. */
     void load(const std::wstring& path);
 
-    void sendMouse(rulecanvas::MouseCode code, float x, float y);
-    void sendKey(uint16_t virtualKey);
+    void SendMouse(rulecanvas::MouseCode code, float x, float y);
+    void SendKey(uint16_t virtualKey);
     /* Whether the pointer at (x, y) is over a figure that it could grab, as far as the library tells. */
     bool wouldGrab(float x, float y);
-    void paint(rulecanvas::Surface& surface) const { m_container.paint(VIEW, surface); }
+    void Paint(rulecanvas::Surface& surface) const { m_container.Paint(VIEW, surface); }
     /* Size of the video in pixels. */
-    void setVideoSize(int width, int height) { m_container.setVideoSize(width, height); }
-    void setTip(const std::string& text) { m_container.setTip(VIEW, text.c_str()); }
+    void SetVideoSize(int width, int height) { m_container.SetVideoSize(width, height); }
+    void SetTip(const std::string& text) { m_container.SetTip(VIEW, text.c_str()); }
 
     /* Shapes refit themselves to the rectangle of view 0, so the one view of this program has that number. */
     static constexpr rulecanvas::ViewID VIEW = 0;
 
   private:
     void onNotification(const char* text);
-    void onCapture(bool take);
+    void OnCapture(bool take);
     int stateAsGiven(rulecanvas::ShapeID shape) const;
     void noticeSilentCompletion();
     const SceneEntry* entryOf(rulecanvas::ShapeID shape) const;

@@ -128,7 +128,7 @@ void ScriptPlayer::fail(const std::string& problem) {
     }
     const int line = m_next > 0 ? m_steps[m_next - 1].line : 0;
     std::fprintf(stderr, "%s:%d: %s\n", toUtf8(m_scriptPath).c_str(), line, problem.c_str());
-    writePng(screenshot(m_window.handle(), m_window.clientSize()), inFolder("failure.png"));
+    writePng(screenshot(m_window.Handle(), m_window.clientSize()), inFolder("failure.png"));
     finish(EXIT_FAILED);
 }
 
@@ -218,7 +218,7 @@ void ScriptPlayer::key(const ScriptStep& step) {
     if (step.words[0] != "escape") {
         throw std::runtime_error("the only key that scripts know is escape");
     }
-    PostMessageW(m_window.view().handle(), WM_KEYDOWN, VK_ESCAPE, 0);
+    PostMessageW(m_window.view().Handle(), WM_KEYDOWN, VK_ESCAPE, 0);
 }
 
 void ScriptPlayer::select(const ScriptStep& step) {
@@ -232,7 +232,7 @@ void ScriptPlayer::deselect(const ScriptStep&) {
 }
 
 void ScriptPlayer::direction(const ScriptStep& step) {
-    m_window.scene().setDirection(requiredRule(), numberAt(step, 0));
+    m_window.scene().SetDirection(requiredRule(), numberAt(step, 0));
 }
 
 void ScriptPlayer::colour(const ScriptStep& step) {
@@ -240,12 +240,12 @@ void ScriptPlayer::colour(const ScriptStep& step) {
     if (which != "selected" && which != "unselected") {
         throw std::runtime_error("colour takes \"selected\" or \"unselected\" and three numbers");
     }
-    m_window.scene().setColour(requiredRule(), which == "selected" ? Outline::selected : Outline::unselected,
+    m_window.scene().SetColour(requiredRule(), which == "selected" ? Outline::Selected : Outline::Unselected,
                                {numberAt(step, 1), numberAt(step, 2), numberAt(step, 3)});
 }
 
 void ScriptPlayer::limits(const ScriptStep& step) {
-    m_window.scene().setPointLimits(requiredRule(), numberAt(step, 0), numberAt(step, 1));
+    m_window.scene().SetPointLimits(requiredRule(), numberAt(step, 0), numberAt(step, 1));
 }
 
 void ScriptPlayer::showOrHide(const ScriptStep& step) {
@@ -264,7 +264,7 @@ void ScriptPlayer::clear(const ScriptStep&) {
 }
 
 void ScriptPlayer::tip(const ScriptStep& step) {
-    m_window.scene().setTip(step.text);
+    m_window.scene().SetTip(step.text);
     m_window.view().redraw();
 }
 
@@ -278,7 +278,7 @@ void ScriptPlayer::frame(const ScriptStep& step) {
 
 void ScriptPlayer::snapshot(const ScriptStep& step) {
     const std::string& name = step.words[0];
-    writePng(screenshot(m_window.handle(), m_window.clientSize()), inFolder(name + ".png"));
+    writePng(screenshot(m_window.Handle(), m_window.clientSize()), inFolder(name + ".png"));
     m_pictures[name] = m_window.view().picture();
 }
 
@@ -302,7 +302,7 @@ void ScriptPlayer::expectLog(const ScriptStep& step) {
 }
 
 void ScriptPlayer::expectConfig(const ScriptStep& step) {
-    const std::string text = m_window.scene().configuration(requiredRule());
+    const std::string text = m_window.scene().Configuration(requiredRule());
     if (text.find(step.text) == std::string::npos) {
         throw std::runtime_error("the configuration is " + (text.empty() ? "empty" : text) + ", without " + step.text);
     }
@@ -337,7 +337,7 @@ void ScriptPlayer::differ(const ScriptStep& step) {
 
 void ScriptPlayer::post(UINT message, WPARAM buttons, int x, int y) const {
     const LPARAM place = MAKELPARAM(static_cast<WORD>(x), static_cast<WORD>(y));
-    PostMessageW(m_window.view().handle(), message, buttons | VideoView::SCRIPTED, place);
+    PostMessageW(m_window.view().Handle(), message, buttons | VideoView::SCRIPTED, place);
 }
 
 size_t ScriptPlayer::ruleNamed(const std::string& name) const {

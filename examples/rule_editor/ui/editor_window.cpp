@@ -79,18 +79,18 @@ EditorWindow::~EditorWindow() {
 }
 
 void EditorWindow::addControls() {
-    m_panel = std::make_unique<SidePanel>(handle(), m_theme,
+    m_panel = std::make_unique<SidePanel>(Handle(), m_theme,
                                           SidePanel::Events{[this](const std::string& type) { startTool(type, ""); },
                                                             [this](size_t rule) {
                                                                 m_scene.select(rule);
                                                                 refresh();
                                                             }});
     m_view = std::make_unique<VideoView>(
-        handle(), m_scene,
+        Handle(), m_scene,
         VideoView::Events{[this] { refresh(); }, [this](const std::string& problem) { onFailure(problem); }});
     const auto add = [this](const wchar_t* kind, const wchar_t* text, DWORD style, size_t id) {
         const HWND control =
-            CreateWindowExW(0, kind, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 0, 0, handle(),
+            CreateWindowExW(0, kind, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 0, 0, Handle(),
                             reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
         return control;
     };
@@ -104,7 +104,7 @@ void EditorWindow::addControls() {
 
 void EditorWindow::showVideo() {
     m_view->setVideo(*m_video);
-    m_scene.setVideoSize(m_video->size().width, m_video->size().height);
+    m_scene.SetVideoSize(m_video->size().width, m_video->size().height);
     if (!m_video->remark().empty()) {
         log(m_video->remark());
     }
@@ -112,8 +112,8 @@ void EditorWindow::showVideo() {
 
 void EditorWindow::resizeClient(Size size) {
     RECT area = {0, 0, size.width, size.height};
-    AdjustWindowRect(&area, static_cast<DWORD>(GetWindowLongPtrW(handle(), GWL_STYLE)), FALSE);
-    SetWindowPos(handle(), nullptr, 0, 0, area.right - area.left, area.bottom - area.top, SWP_NOMOVE | SWP_NOZORDER);
+    AdjustWindowRect(&area, static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_STYLE)), FALSE);
+    SetWindowPos(Handle(), nullptr, 0, 0, area.right - area.left, area.bottom - area.top, SWP_NOMOVE | SWP_NOZORDER);
 }
 
 void EditorWindow::layout() {
@@ -128,7 +128,7 @@ void EditorWindow::layout() {
     const int logTop = client.height - MARGIN - LOG_HEIGHT;
     MoveWindow(m_logList, left, logTop, std::max(client.width - left - MARGIN, 1), LOG_HEIGHT, TRUE);
     const RECT video = fitted({left, BAR_HEIGHT, client.width - MARGIN, logTop - MARGIN}, m_video->size());
-    MoveWindow(m_view->handle(), video.left, video.top, video.right - video.left, video.bottom - video.top, TRUE);
+    MoveWindow(m_view->Handle(), video.left, video.top, video.right - video.left, video.bottom - video.top, TRUE);
     redraw();
 }
 
@@ -147,7 +147,7 @@ void EditorWindow::log(const std::string& line) {
 void EditorWindow::startTool(const std::string& type, const std::string& configuration) {
     if (type.empty()) {
         m_scene.abandonUnfinished();
-        m_scene.setTip("");
+        m_scene.SetTip("");
         refresh();
         return;
     }
@@ -159,8 +159,8 @@ void EditorWindow::startTool(const std::string& type, const std::string& configu
     const bool added = m_scene.add(rule);
     if (added) {
         m_panel->setSettings(Rule());
-        m_scene.setTip(configuration.empty() ? m_panel->hintOf(type) : "");
-        SetFocus(m_view->handle());
+        m_scene.SetTip(configuration.empty() ? m_panel->hintOf(type) : "");
+        SetFocus(m_view->Handle());
     }
     refresh();
     if (!added) {
@@ -194,9 +194,9 @@ void EditorWindow::refresh() {
 
 void EditorWindow::play(bool playing) {
     m_playing = playing && m_video->framesPerSecond() > 0.0;
-    KillTimer(handle(), PLAY_TIMER);
+    KillTimer(Handle(), PLAY_TIMER);
     if (m_playing) {
-        SetTimer(handle(), PLAY_TIMER, static_cast<UINT>(1000.0 / m_video->framesPerSecond()), nullptr);
+        SetTimer(Handle(), PLAY_TIMER, static_cast<UINT>(1000.0 / m_video->framesPerSecond()), nullptr);
     }
     SetWindowTextW(m_buttons[PLAY], m_playing ? L"Pause" : L"Play");
 }
@@ -209,19 +209,19 @@ void EditorWindow::runScript(std::function<void()> step, std::function<void(cons
 }
 
 void EditorWindow::nextStep() {
-    PostMessageW(handle(), NEXT_STEP, 0, 0);
+    PostMessageW(Handle(), NEXT_STEP, 0, 0);
 }
 
 bool EditorWindow::takesKey(const MSG& message) {
     if (message.message != WM_KEYDOWN) {
         return false;
     }
-    const bool forView = message.hwnd == m_view->handle();
+    const bool forView = message.hwnd == m_view->Handle();
     wchar_t kind[8] = {};
     GetClassNameW(message.hwnd, kind, static_cast<int>(std::size(kind)));
     const bool typing = lstrcmpiW(kind, L"EDIT") == 0;
     if (message.wParam == VK_ESCAPE && !forView) {
-        SendMessageW(m_view->handle(), WM_KEYDOWN, VK_ESCAPE, 0);
+        SendMessageW(m_view->Handle(), WM_KEYDOWN, VK_ESCAPE, 0);
         return true;
     }
     if (message.wParam == VK_DELETE && !typing) {
@@ -229,7 +229,7 @@ bool EditorWindow::takesKey(const MSG& message) {
         return true;
     }
     MSG dialogKey = message;
-    return !forView && IsDialogMessageW(handle(), &dialogKey) != FALSE;
+    return !forView && IsDialogMessageW(Handle(), &dialogKey) != FALSE;
 }
 
 LRESULT EditorWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -245,7 +245,7 @@ LRESULT EditorWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
-        paint();
+        Paint();
         return 0;
     case WM_COMMAND:
         onCommand(LOWORD(wParam), HIWORD(wParam));
@@ -280,16 +280,16 @@ void EditorWindow::onFailure(const std::string& problem) {
     if (m_scriptFailed) {
         m_scriptFailed(problem);
     } else {
-        MessageBoxW(handle(), toWide(problem).c_str(), L"Rule editor", MB_ICONWARNING);
+        MessageBoxW(Handle(), toWide(problem).c_str(), L"Rule editor", MB_ICONWARNING);
     }
 }
 
-void EditorWindow::paint() {
+void EditorWindow::Paint() {
     PAINTSTRUCT area = {};
-    const HDC context = BeginPaint(handle(), &area);
+    const HDC context = BeginPaint(Handle(), &area);
     m_theme.fill(context, area.rcPaint, Theme::WINDOW);
     m_panel->paintHeadings(context);
-    EndPaint(handle(), &area);
+    EndPaint(Handle(), &area);
 }
 
 void EditorWindow::onCommand(WORD control, WORD event) {
@@ -402,15 +402,15 @@ void EditorWindow::colourByDialog() {
     static COLORREF custom[16] = {};
     CHOOSECOLORW choice = {};
     choice.lStructSize = sizeof choice;
-    choice.hwndOwner = handle();
+    choice.hwndOwner = Handle();
     choice.lpCustColors = custom;
     choice.Flags = CC_FULLOPEN | CC_RGBINIT;
     if (!ChooseColorW(&choice)) {
         return;
     }
     const Colour colour = {GetRValue(choice.rgbResult), GetGValue(choice.rgbResult), GetBValue(choice.rgbResult)};
-    m_scene.setColour(rule, Outline::selected, colour);
-    m_scene.setColour(rule, Outline::unselected, colour);
+    m_scene.SetColour(rule, Outline::Selected, colour);
+    m_scene.SetColour(rule, Outline::Unselected, colour);
 }
 
 void EditorWindow::nextDirection() {
@@ -420,7 +420,7 @@ void EditorWindow::nextDirection() {
         return;
     }
     const int32_t direction = m_scene.entries()[rule].rule.direction.value_or(-1);
-    m_scene.setDirection(rule, direction >= LAST_DIRECTION ? -1 : direction + 1);
+    m_scene.SetDirection(rule, direction >= LAST_DIRECTION ? -1 : direction + 1);
     log(m_scene.entries()[rule].rule.name + ": direction " + std::to_string(*m_scene.entries()[rule].rule.direction));
 }
 
@@ -428,7 +428,7 @@ std::wstring EditorWindow::askForPath(bool toSave, const wchar_t* filter, const 
     wchar_t path[MAX_PATH] = {};
     OPENFILENAMEW dialog = {};
     dialog.lStructSize = sizeof dialog;
-    dialog.hwndOwner = handle();
+    dialog.hwndOwner = Handle();
     dialog.lpstrFilter = filter;
     dialog.lpstrFile = path;
     dialog.nMaxFile = MAX_PATH;

@@ -53,7 +53,7 @@ class EditorWindow final : public Window {
     void addControls();
     void showVideo();
     void layout();
-    void paint();
+    void Paint();
     void onCommand(WORD control, WORD event);
     void onDrawItem(const DRAWITEMSTRUCT& item);
     void drawLogLine(const DRAWITEMSTRUCT& item);

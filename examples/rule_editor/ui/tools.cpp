@@ -93,7 +93,7 @@ constexpr IconStroke ICON_STROKES[] = {
 bool isMade(rulecanvas::Container& scratch, const Tool& tool) {
     rulecanvas::ShapeSettings settings;
     settings.type = tool.type;
-    return scratch.addShape(settings) != 0;
+    return scratch.AddShape(settings) != 0;
 }
 
 } // namespace
@@ -119,9 +119,9 @@ Frame toolIcon(const std::string& type, uint32_t background, uint32_t ink) {
             continue;
         }
         if (stroke.stroke == Stroke::ellipse) {
-            canvas.strokeEllipse({stroke.x1, stroke.y1}, {stroke.x2, stroke.y2}, WIDTH, colour);
+            canvas.StrokeEllipse({stroke.x1, stroke.y1}, {stroke.x2, stroke.y2}, WIDTH, colour);
         } else {
-            canvas.strokeLine({stroke.x1, stroke.y1}, {stroke.x2, stroke.y2}, WIDTH, colour,
+            canvas.StrokeLine({stroke.x1, stroke.y1}, {stroke.x2, stroke.y2}, WIDTH, colour,
                               stroke.stroke == Stroke::dashed);
         }
     }

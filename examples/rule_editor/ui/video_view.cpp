@@ -15,15 +15,15 @@ namespace {
 MouseCode codeOf(UINT message, bool alt) {
     switch (message) {
     case WM_LBUTTONDOWN:
-        return MouseCode::leftDown;
+        return MouseCode::LeftDown;
     case WM_LBUTTONUP:
-        return MouseCode::leftUp;
+        return MouseCode::LeftUp;
     case WM_RBUTTONDOWN:
-        return alt ? MouseCode::altRightDown : MouseCode::rightDown;
+        return alt ? MouseCode::AltRightDown : MouseCode::RightDown;
     case WM_RBUTTONUP:
-        return MouseCode::rightUp;
+        return MouseCode::RightUp;
     default:
-        return MouseCode::moved;
+        return MouseCode::Moved;
     }
 }
 
@@ -52,8 +52,8 @@ rulecanvas::ClientRect VideoView::clientRect() const {
 void VideoView::captureMouse(bool take) {
     m_capturing = take;
     if (take) {
-        SetCapture(handle());
-    } else if (GetCapture() == handle()) {
+        SetCapture(Handle());
+    } else if (GetCapture() == Handle()) {
         ReleaseCapture();
     }
 }
@@ -66,7 +66,7 @@ Frame VideoView::picture() {
 LRESULT VideoView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_PAINT:
-        paint();
+        Paint();
         return 0;
     case WM_ERASEBKGND:
         return 1;
@@ -84,7 +84,7 @@ LRESULT VideoView::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         }
         break;
     case WM_KEYDOWN:
-        m_scene.sendKey(static_cast<uint16_t>(wParam));
+        m_scene.SendKey(static_cast<uint16_t>(wParam));
         if (wParam == VK_ESCAPE) {
             m_scene.abandonUnfinished();
         }
@@ -118,21 +118,21 @@ bool VideoView::onMouse(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     const bool alt = scripted ? (wParam & SCRIPTED_ALT) != 0 : GetKeyState(VK_MENU) < 0;
     if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN) {
-        SetFocus(handle());
+        SetFocus(Handle());
     }
     send(codeOf(message, alt), {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
     if (message == WM_LBUTTONUP || message == WM_RBUTTONUP) {
         captureMouse(false);
     }
     if (scripted) {
-        UpdateWindow(handle());
+        UpdateWindow(Handle());
     } /* A person's events come slowly enough for a paint after each. */
     return true;
 }
 
 void VideoView::send(MouseCode code, POINT at) {
     m_pointer = at;
-    m_scene.sendMouse(code, static_cast<float>(at.x), static_cast<float>(at.y));
+    m_scene.SendMouse(code, static_cast<float>(at.x), static_cast<float>(at.y));
     redraw();
     m_events.sceneMayHaveChanged();
 }
@@ -143,7 +143,7 @@ void VideoView::onCaptureLost() {
         return;
     }
     m_capturing = false;
-    send(MouseCode::leftUp, m_pointer);
+    send(MouseCode::LeftUp, m_pointer);
 }
 
 bool VideoView::chooseCursor() {
@@ -152,7 +152,7 @@ bool VideoView::chooseCursor() {
     }
     POINT at = {};
     GetCursorPos(&at);
-    ScreenToClient(handle(), &at);
+    ScreenToClient(Handle(), &at);
     const bool grab = m_scene.wouldGrab(static_cast<float>(at.x), static_cast<float>(at.y));
     const bool drawing = m_scene.unfinished() < m_scene.entries().size();
     const LPCWSTR usual = drawing ? IDC_CROSS : IDC_ARROW;
@@ -160,17 +160,17 @@ bool VideoView::chooseCursor() {
     return true;
 }
 
-void VideoView::paint() {
+void VideoView::Paint() {
     PAINTSTRUCT area = {};
-    const HDC context = BeginPaint(handle(), &area);
+    const HDC context = BeginPaint(Handle(), &area);
     try {
         render();
         m_buffer.show(context, 0, 0);
     } catch (...) {
-        EndPaint(handle(), &area);
+        EndPaint(Handle(), &area);
         throw;
     }
-    EndPaint(handle(), &area);
+    EndPaint(Handle(), &area);
 }
 
 void VideoView::render() {
@@ -183,7 +183,7 @@ void VideoView::render() {
     }
     m_buffer.copyFrom(m_background);
     PictureSurface surface(m_buffer.pixels(), size, m_fonts);
-    m_scene.paint(surface);
+    m_scene.Paint(surface);
 }
 
 } // namespace rule_editor

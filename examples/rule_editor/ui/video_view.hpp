@@ -48,7 +48,7 @@ class VideoView final : public Window {
     void send(rulecanvas::MouseCode code, POINT at);
     void onCaptureLost();
     bool chooseCursor();
-    void paint();
+    void Paint();
     void render();
 
     Scene& m_scene;

@@ -15,7 +15,7 @@ class Window {
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    HWND handle() const { return m_handle; }
+    HWND Handle() const { return m_handle; }
     Size clientSize() const;
     void redraw() const { InvalidateRect(m_handle, nullptr, FALSE); }
 
