@@ -2,23 +2,21 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace rulecanvas {
 namespace {
 
 using Guard = std::lock_guard<std::mutex>;
 
-/// Appends the places of flags that are set.
-void AppendFlagged(const std::vector<uint8_t>& flags, std::vector<uint32_t>& places) {
-    const uint8_t* const first = flags.data();
-    const uint8_t* const end = first + flags.size();
-    for (const uint8_t* at = first; at != end; ++at) {
-        at = static_cast<const uint8_t*>(std::memchr(at, 1, static_cast<size_t>(end - at)));
-        if (at == nullptr) {
+/// Appends the places of flags that are set, at most `limit` of them.
+void AppendFlagged(const std::vector<uint8_t>& flags, size_t limit, std::vector<uint32_t>& places) {
+    auto at = flags.begin();
+    for (size_t found = 0; found < limit; ++found, ++at) {
+        at = std::find(at, flags.end(), 1);
+        if (at == flags.end()) {
             return;
         }
-        places.push_back(static_cast<uint32_t>(at - first));
+        places.push_back(static_cast<uint32_t>(at - flags.begin()));
     }
 }
 
@@ -61,12 +59,8 @@ ShapeVector PressIndex::FindCandidates(const ShapeMap& shapes, ViewID viewId, co
 std::vector<uint32_t> PressIndex::FindPlaces(const View& view, const PointF& press) {
     std::vector<uint32_t> places;
     view.bounds.Find(press, places);
-    if (const void* first = std::memchr(view.answersOutside.data(), 1, view.answersOutside.size())) {
-        places.push_back(static_cast<uint32_t>(static_cast<const uint8_t*>(first) - view.answersOutside.data()));
-    }
-    if (view.selectedCount > 0) {
-        AppendFlagged(view.isSelected, places);
-    }
+    AppendFlagged(view.answersOutside, 1, places);
+    AppendFlagged(view.isSelected, view.selectedCount, places);
     std::sort(places.begin(), places.end());
     places.erase(std::unique(places.begin(), places.end()), places.end());
     return places;
@@ -115,23 +109,34 @@ void PressIndex::Rebuild(const ShapeMap& shapes) {
         ViewOf(shape->GetViewId()).shapes.push_back(shape);
     }
     for (View& view : views) {
-        const size_t count = view.shapes.size();
-        view.bounds.Resize(count);
-        view.answersOutside.resize(count);
-        view.isSelected.resize(count);
-        for (size_t place = 0; place < count; ++place) {
-            RefreshShape(view, place);
+        std::vector<Claim> claims;
+        for (const ShapePtr& shape : view.shapes) {
+            claims.push_back(ClaimOf(*shape));
+        }
+        view.bounds.Reset(claims);
+        view.answersOutside.resize(claims.size());
+        view.isSelected.resize(claims.size());
+        for (size_t place = 0; place < claims.size(); ++place) {
+            NoteFlags(view, place, claims[place]);
         }
     }
 }
 
-/// The mark goes first: a change while the claim is read is then reported anew.
 void PressIndex::RefreshShape(View& view, size_t place) {
-    CVideoAnalyseShape& shape = *view.shapes[place];
-    shape.claimIsStale = false;
-    const Claim claim = shape.GetClaim();
-    const uint8_t selected = shape.IsSelected() ? 1 : 0;
+    const Claim claim = ClaimOf(*view.shapes[place]);
     view.bounds.Set(place, claim);
+    NoteFlags(view, place, claim);
+}
+
+/// The mark goes first: a change while the claim is read is then reported anew.
+Claim PressIndex::ClaimOf(CVideoAnalyseShape& shape) {
+    shape.claimIsStale = false;
+    return shape.GetClaim();
+}
+
+void PressIndex::NoteFlags(View& view, size_t place, const Claim& claim) {
+    const CVideoAnalyseShape& shape = *view.shapes[place];
+    const uint8_t selected = shape.IsSelected() ? 1 : 0;
     view.answersOutside[place] = claim.answersOutside && shape.IsEnabled() ? 1 : 0;
     view.selectedCount = view.selectedCount + selected - view.isSelected[place];
     view.isSelected[place] = selected;

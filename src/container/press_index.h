@@ -36,6 +36,8 @@ class PressIndex {
     void RebuildOrStayChanged(const ShapeMap& shapes);
     View& ViewOf(ViewID id);
     static void RefreshShape(View& view, size_t place);
+    static Claim ClaimOf(CVideoAnalyseShape& shape);
+    static void NoteFlags(View& view, size_t place, const Claim& claim);
     static std::vector<uint32_t> FindPlaces(const View& view, const PointF& press);
 
     /// Held during a search. Shapes' own locks are taken under it.

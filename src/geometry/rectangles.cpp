@@ -1,6 +1,7 @@
 #include "geometry/rectangles.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace rulecanvas {
 namespace {
@@ -12,7 +13,8 @@ PointF MakePoint(int x, int y) {
 } // namespace
 
 int Span(int from, int to) {
-    return TruncateToInt(static_cast<double>(to) - from);
+    const int64_t span = int64_t{to} - from;
+    return static_cast<int>(std::clamp<int64_t>(span, INT32_MIN, INT32_MAX));
 }
 
 ViewSize SizeOf(const ClientRect& rect) {

@@ -22,6 +22,9 @@ struct Figure {
     void Adopt(const ClientRect& view);
     /// Rescales the points to a view of another size. A view without a size, as that of a minimised window, leaves them.
     void FitTo(const ClientRect& view);
+
+  private:
+    bool IsFittedTo(const ClientRect& view) const;
 };
 
 } // namespace rulecanvas

@@ -115,7 +115,9 @@ class CGestureShape : public CVideoAnalyseShape {
             committed.outcome = step();
             Commit(committed);
         }
-        MarkClaimStale();
+        if (committed.outcome.ChangesLife()) { // the steps between claim the same presses: all of them
+            MarkClaimStale();
+        }
         Speak(committed, cause);
     }
 

@@ -42,6 +42,22 @@ std::unique_ptr<Json::StreamWriter> MakeWriter() {
     return std::unique_ptr<Json::StreamWriter>(builder.newStreamWriter());
 }
 
+/// One writer for all, one thread at a time: making one takes longer than using it.
+class Writer {
+  public:
+    std::string Write(const Json::Value& value) {
+        std::ostringstream out;
+        platform::LockGuard guard(mutex);
+        writer->write(value, &out);
+        out << '\n';
+        return out.str();
+    }
+
+  private:
+    platform::ContainerMutex mutex;
+    const std::unique_ptr<Json::StreamWriter> writer = MakeWriter();
+};
+
 } // namespace
 
 bool ParseJson(const char* text, Json::Value& root, std::string* why) {
@@ -62,10 +78,8 @@ bool ParseJson(const char* text, Json::Value& root, std::string* why) {
 }
 
 std::string WriteJson(const Json::Value& value) {
-    std::ostringstream out;
-    MakeWriter()->write(value, &out);
-    out << '\n';
-    return out.str();
+    static Writer writer;
+    return writer.Write(value);
 }
 
 const Json::Value& MemberOf(const Json::Value& root, const std::string& key) {

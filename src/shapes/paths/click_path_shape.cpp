@@ -183,8 +183,9 @@ Refused CClickPathShape::Load(Loading& loading) {
     }
     figure.points.reserve(elements.size());
     for (Json::ArrayIndex i = 0; i < elements.size(); ++i) {
-        if (IsPoint(elements[i])) {
-            figure.points.push_back(ReadRealPoint(elements[i], figure.fitted));
+        const Json::Value& element = elements[i];
+        if (IsPoint(element)) {
+            figure.points.push_back(ReadRealPoint(element, figure.fitted));
         }
     }
     Enter(figure.points.empty() ? Waiting : Complete);
