@@ -26,7 +26,12 @@ class ListenerList {
     template <class Call>
     void Invoke(Call call) {
         const std::shared_ptr<const Entries> walked = Snapshot();
-        for (const Entry& entry : *walked) {
+        const Entry* const end = walked->data() + walked->size();
+        for (const Entry* next = walked->data(); next != end; ++next) {
+            const Entry& entry = *next;
+            if (end - next > FetchedAhead) {
+                Fetch(next[FetchedAhead].listener.get());
+            }
             if (entry.listener != nullptr && ((*entry.listener).*ticketOf) == entry.ticket) {
                 call(*entry.listener);
             }
@@ -39,6 +44,18 @@ class ListenerList {
         /// Null once the listener was unregistered.
         ShapePtr listener;
     };
+    /// Listeners whose memory is on its way while another is called: with thousands of them waiting for it would take
+    /// longer than the calls.
+    static constexpr std::ptrdiff_t FetchedAhead = 2;
+
+    static void Fetch(const CVideoAnalyseShape* listener) {
+        constexpr size_t cacheLine = 64;
+        const char* const begin = reinterpret_cast<const char*>(listener);
+        for (size_t at = 0; at < 5 * cacheLine; at += cacheLine) {
+            __builtin_prefetch(begin + at);
+        }
+    }
+
     /// In ascending order of ticket.
     using Entries = std::vector<Entry>;
 

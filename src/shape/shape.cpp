@@ -196,7 +196,9 @@ void CVideoAnalyseShape::LearnViewSize(const ClientRect& view) {
 void CVideoAnalyseShape::CopyLook(ShapeLook& look) const {
     look.figure = figure;
     look.style = style;
-    look.caption = showNameText;
+    if (!look.caption.empty() || !showNameText.empty()) {
+        look.caption = showNameText;
+    }
     look.state = state;
     look.selected = selected;
     look.handles = adjustBoxShown;

@@ -111,14 +111,6 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     void FreeFigure() noexcept;
     bool IsRetired() const { return container == nullptr; }
 
-    /// The shape's places in its container's lists of listeners, which set them.
-    ListenerTicket drawTicket{0};
-    ListenerTicket buttonUpTicket{0};
-    ListenerTicket rightButtonUpTicket{0};
-    ListenerTicket mouseMovedTicket{0};
-    /// The container knows already that the shape's claim is not what it was.
-    std::atomic<bool> claimIsStale{false};
-
   protected:
     /// What a shape undoes before it is freed.
     virtual void Dispose() = 0;
@@ -139,13 +131,36 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     void RegisterDraw();
     void UnregisterDraw();
 
-    mutable platform::ContainerMutex lock;
+    // What a paint looks at stands together, first: with many figures, fetching it is most of the time.
+
+  public:
+    /// The shape's places in its container's lists of listeners, which set them.
+    ListenerTicket drawTicket{0};
+
+  private:
+    std::atomic<IShapeContainer*> container{nullptr};
+    ViewID viewId = 0;
+
+  protected:
     std::atomic<int> state{Deleted};
     std::atomic<bool> selected{false};
     std::atomic<bool> adjustBoxShown{false};
     std::atomic<bool> visible{true};
+    mutable platform::ContainerMutex lock;
     Figure figure;
     ShapeStyle style;
+
+  private:
+    std::string showNameText;
+
+  public:
+    ListenerTicket buttonUpTicket{0};
+    ListenerTicket rightButtonUpTicket{0};
+    ListenerTicket mouseMovedTicket{0};
+    /// The container knows already that the shape's claim is not what it was.
+    std::atomic<bool> claimIsStale{false};
+
+  protected:
     int maxPtNum = 0;
     int minPtNum = 0;
     int shapeType = 0;
@@ -157,9 +172,6 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     std::atomic<bool> enabled{true};
     std::atomic<bool> retirementClaimed{false};
     const ShapeID shapeId;
-    std::atomic<IShapeContainer*> container{nullptr};
-    ViewID viewId = 0;
-    std::string showNameText;
     std::string eventName;
     std::unique_ptr<OwnerHooks> hooks;
 };
