@@ -44,7 +44,7 @@ void CVideoAnalyseContainer::OnDraw(ViewID view, IContainerGraphics& surface) {
     PaintPass pass(*this, view, surface, GetClientRect(0), *look);
     DrawTip(pass);
     FitAll(pass.viewZero);
-    drawListeners.Invoke([&](CVideoAnalyseShape& shape) { shape.OnDraw(pass); });
+    drawListeners.Invoke(*drawListeners.Snapshot(), [&](CVideoAnalyseShape& shape) { shape.OnDraw(pass); });
 }
 
 void CVideoAnalyseContainer::InvalidateAll() {

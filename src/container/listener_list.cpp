@@ -37,11 +37,6 @@ void ListenerList::Remove(uint64_t ticket, Entries& all) {
     }
 }
 
-bool ListenerList::IsEmpty() {
-    LockGuard guard(mutex);
-    return entries.Peek().size() == goneCount;
-}
-
 std::shared_ptr<const ListenerList::Entries> ListenerList::Snapshot() {
     LockGuard guard(mutex);
     return entries.Take();

@@ -21,29 +21,32 @@ class ListenerList {
     void Register(const ShapePtr& listener);
     /// Nothing happens for a shape that is not in the list.
     void Unregister(CVideoAnalyseShape& listener);
-    bool IsEmpty();
 
-    template <class Call>
-    void Invoke(Call call) {
-        const std::shared_ptr<const Entries> walked = Snapshot();
-        const Entry* const end = walked->data() + walked->size();
-        for (const Entry* next = walked->data(); next != end; ++next) {
-            const Entry& entry = *next;
-            if (end - next > FetchedAhead) {
-                Fetch(next[FetchedAhead].listener.get());
-            }
-            if (entry.listener != nullptr && ((*entry.listener).*ticketOf) == entry.ticket) {
-                call(*entry.listener);
-            }
-        }
-    }
-
-  private:
     struct Entry {
         uint64_t ticket;
         /// Null once the listener was unregistered.
         ShapePtr listener;
     };
+    /// In ascending order of ticket.
+    using Entries = std::vector<Entry>;
+
+    /// The list as it is now, for one walk.
+    std::shared_ptr<const Entries> Snapshot();
+
+    template <class Call>
+    void Invoke(const Entries& walked, Call call) const {
+        const Entry* const end = walked.data() + walked.size();
+        for (const Entry* next = walked.data(); next != end; ++next) {
+            if (end - next > FetchedAhead) {
+                Fetch(next[FetchedAhead].listener.get());
+            }
+            if (next->listener != nullptr && ((*next->listener).*ticketOf) == next->ticket) {
+                call(*next->listener);
+            }
+        }
+    }
+
+  private:
     /// Listeners whose memory is on its way while another is called: with thousands of them waiting for it would take
     /// longer than the calls.
     static constexpr std::ptrdiff_t FetchedAhead = 2;
@@ -56,10 +59,6 @@ class ListenerList {
         }
     }
 
-    /// In ascending order of ticket.
-    using Entries = std::vector<Entry>;
-
-    std::shared_ptr<const Entries> Snapshot();
     void Remove(uint64_t ticket, Entries& all);
 
     ListenerTicket CVideoAnalyseShape::*const ticketOf;

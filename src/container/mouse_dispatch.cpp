@@ -143,11 +143,12 @@ ListenerList& CVideoAnalyseContainer::ListenersOf(MouseListenerKind kind) {
 /// The host is asked for the view's rectangle once, and only when someone listens.
 void CVideoAnalyseContainer::Feed(MouseListenerKind kind, const ContainerMouseEvent& event) {
     ListenerList& listeners = ListenersOf(kind);
-    if (listeners.IsEmpty()) {
+    const auto walked = listeners.Snapshot();
+    if (walked->empty()) {
         return;
     }
     const PointerEvent fed(event, GetClientRect(event.viewId));
-    listeners.Invoke([&](CVideoAnalyseShape& shape) { shape.OnMouseListened(kind, fed); });
+    listeners.Invoke(*walked, [&](CVideoAnalyseShape& shape) { shape.OnMouseListened(kind, fed); });
 }
 
 } // namespace rulecanvas

@@ -1,0 +1,153 @@
+// What a paint and a step of a drag may cost: questions to the host, locks and memory.
+
+#include "container/container.h"
+#include "rulecanvas/surface.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <new>
+#include <string>
+
+namespace {
+
+size_t allocations = 0;
+size_t locks = 0;
+
+} // namespace
+
+// NOLINTBEGIN(misc-definitions-in-headers): the program's own, to be counted
+void* operator new(size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, size_t /*size*/) noexcept {
+    std::free(memory);
+}
+// NOLINTEND(misc-definitions-in-headers)
+
+/// Stands before rulecanvas::platform::ContainerMutex::Lock.
+extern "C" void __real__ZN10rulecanvas8platform14ContainerMutex4LockEv(void* self);
+extern "C" void __wrap__ZN10rulecanvas8platform14ContainerMutex4LockEv(void* self);
+extern "C" void __wrap__ZN10rulecanvas8platform14ContainerMutex4LockEv(void* self) {
+    ++locks;
+    __real__ZN10rulecanvas8platform14ContainerMutex4LockEv(self);
+}
+
+namespace rulecanvas {
+namespace {
+
+constexpr size_t FigureCount = 100;
+
+struct Counts {
+    size_t questions = 0;
+    size_t locks = 0;
+    size_t allocations = 0;
+};
+
+class Scene {
+  public:
+    explicit Scene(const char* type, const char* config) {
+        container.SetClientRectDelegate(CDelegate{this, reinterpret_cast<void*>(&ReportRect)});
+        container.Enable(true);
+        container.SetPixelCount(640, 480);
+        for (size_t i = 0; i < FigureCount; ++i) {
+            last = container.CreateMainShape(0, "", type, "rule", config, "");
+        }
+    }
+    ~Scene() { container.Close(); }
+
+    template <class Call>
+    Counts CostOf(Call call) {
+        const Counts before{questions, locks, allocations};
+        call(container);
+        return {questions - before.questions, locks - before.locks, allocations - before.allocations};
+    }
+
+    CVideoAnalyseContainer container{nullptr};
+    ShapeID last = 0;
+
+  private:
+    static void RULECANVAS_THISCALL ReportRect(void* self, ViewID /*view*/, ClientRect* out) {
+        ++static_cast<Scene*>(self)->questions;
+        *out = ClientRect{0, 0, 8191, 8191};
+    }
+
+    size_t questions = 0;
+};
+
+struct Type {
+    const char* name;
+    const char* config;
+};
+
+const Type Types[] = {
+    {"Rect", R"({"rule":[[100,100],[200,200]]})"},
+    {"OvalShape", R"({"OvalShape":[[100,100],[200,200]]})"},
+    {"PixelCountShape", R"({"rule":[8,8]})"},
+    {"LineShape", R"({"rule":[[100,100],[200,200]]})"},
+    {"XLineShape", R"({"rule":[[100,100],[200,200],[300,100]]})"},
+    {"ArrowLineShape", R"({"rule":[[100,100],[200,200]]})"},
+    {"BrokenLine", R"({"rule":[[100,100],[200,100],[200,200]]})"},
+    {"Polygon", R"({"rule":[[100,100],[200,100],[200,200]]})"},
+    {"CrossShape", R"({"rule":[[100,100]]})"},
+    {"BigCrossShape", R"({"rule":[[0,99],[99],[0,199],[199]]})"},
+    {"SpotShape", R"({"rule":[[100,100]]})"},
+};
+
+TEST(Cost, OfAPaintIsOneQuestionOneLockAFigureAndNoMemory) {
+    for (const Type& type : Types) {
+        Scene scene(type.name, type.config);
+        Surface surface;
+        const auto paint = [&](CVideoAnalyseContainer& container) { container.OnDraw(0, surface); };
+        scene.CostOf(paint);
+        const Counts cost = scene.CostOf(paint);
+        EXPECT_EQ(cost.questions, 1U) << type.name;
+        const size_t shownLock = std::string(type.name) == "OvalShape" ? FigureCount : 0; // asks whether it is shown
+        EXPECT_LE(cost.locks, FigureCount + shownLock + 2) << type.name << ": the container and its list besides";
+        EXPECT_EQ(cost.allocations, 0U) << type.name;
+    }
+}
+
+TEST(Cost, OfADragStepIsOneQuestionTwoLocksAndNoMemory) {
+    for (const Type& type : Types) {
+        Scene scene(type.name, type.config);
+        Surface surface;
+        scene.container.OnDraw(0, surface);
+        const auto send = [&](uint32_t code, float x, float y) {
+            return scene.CostOf([&](CVideoAnalyseContainer& container) {
+                container.OnMouseEvent({code, 0, 0, x, y, 0, 0});
+            });
+        };
+        for (const float grab : {100.0F, 150.0F}) { // a corner or the point, and the line or the inside
+            send(RULECANVAS_MOUSE_LEFT_DOWN, grab, grab);
+            send(RULECANVAS_MOUSE_MOVED, grab + 1, grab);
+            const Counts cost = send(RULECANVAS_MOUSE_MOVED, grab + 2, grab + 1);
+            EXPECT_LE(cost.questions, 1U) << type.name;
+            EXPECT_LE(cost.locks, 2U) << type.name;
+            EXPECT_EQ(cost.allocations, 0U) << type.name;
+            EXPECT_LE(send(RULECANVAS_MOUSE_LEFT_UP, grab, grab).questions, 1U) << type.name;
+        }
+    }
+}
+
+TEST(Cost, OfAPressIsNoLockForFiguresItCannotHit) {
+    Scene scene("Polygon", R"({"rule":[[100,100],[200,100],[200,200]]})");
+    const auto press = [&](CVideoAnalyseContainer& container) {
+        container.OnMouseEvent({RULECANVAS_MOUSE_LEFT_DOWN, 0, 0, 5000, 5000, 0, 0});
+    };
+    scene.CostOf(press); // deselects them all
+    scene.CostOf(press);
+    const Counts cost = scene.CostOf(press);
+    EXPECT_LE(cost.locks, 2U) << "the first one alone answers that the press lies outside";
+    EXPECT_EQ(cost.questions, 1U);
+}
+
+} // namespace
+} // namespace rulecanvas
