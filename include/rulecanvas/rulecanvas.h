@@ -415,8 +415,8 @@ RULECANVAS_API ShapeID RULECANVAS_CALL GetSelectedVideoAnalyseShapeID(ContainerH
 RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseShapeShowName(ContainerHandle container, ShapeID shape,
                                                                    const char* text);
 
-/* Shows or hides a shape, which gets its presses all the same. An oval that the user drew cannot be hidden. 1 for every
- * known container. */
+/* Shows or hides a shape, which gets its presses all the same. An oval that was drawn or resized last cannot be
+ * hidden. 1 for every known container. */
 RULECANVAS_API Bool32 RULECANVAS_CALL ShowVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 show);
 
 /* Stores the delegate; see CDelegate. 1; 0 when unknown. A null pointer changes nothing and returns 0. */
