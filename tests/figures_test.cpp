@@ -90,7 +90,10 @@ TEST(BigCross, SpansThePictureAtTwoPlacesAndIsWrittenAsBands) {
     EXPECT_EQ(host.Paint()[2], "fill-ellipse (8995,1995)-(9005,2005) w2 yellow") << "but let go where the mouse is";
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "state rule 5>3"}));
 
-    EXPECT_EQ(host.Add("BigCrossShape", R"({"rule":[[0,1,2,3],[0,1,2,3],[0,1,2,3]]})"), 0U);
+    EXPECT_EQ(host.Config(host.Add("BigCrossShape", R"({"rule":[[0,1,2,3],[9],[0,1,2,3]]})")),
+              R"({"rule":[[0,1,8191,3],[9,0,11,8191],[0,1,8191,3],[0,0,2,8191]]})")
+        << "what is missing is zero";
+    EXPECT_EQ(host.Add("BigCrossShape", R"({"rule":[5]})"), 0U);
     EXPECT_NE(host.Add("BigCrossShape", R"({"rule":[[0,2147483647],[2147483647],[0,0],[0]]})"), 0U);
 }
 
@@ -130,6 +133,23 @@ TEST(Crosses, AreCompleteWhenTheMaximumIsLoweredBetweenTwoClicks) {
     host.Click(300, 100);
     EXPECT_EQ(host.TakeLog(), Lines{"state rule 2>3"});
     EXPECT_NE(host.Config(shape), "");
+}
+
+TEST(Markers, TakeEveryPressWhileOneIsDragged) {
+    for (const auto& [type, dragged] : {std::make_pair("CrossShape", "5>3"), std::make_pair("BigCrossShape", "5>3"),
+                                        std::make_pair("SpotShape", "4>3")}) {
+        ScenarioHost host(GridView, GridView);
+        host.Add("Rect", R"({"rule":[[200,200],[400,400]]})");
+        const ShapeID marker = host.Add(type);
+        host.Click(100, 100);
+        host.Click(100, 100); // the second cross-hair
+        host.Press(100, 100);
+        host.TakeLog();
+        host.Press(300, 300); // inside the rectangle
+        host.Release(100, 100);
+        EXPECT_EQ(host.TakeLog()[0], std::string("state rule ") + dragged) << type;
+        EXPECT_NE(host.Config(marker), "");
+    }
 }
 
 TEST(Figures, LeaveNoListenerWhenTheyAreDeletedInAGesture) {

@@ -118,6 +118,19 @@ TEST(Line, IsMovedOrReshapedAsFarAsItsKindAllows) {
     }
 }
 
+TEST(Line, IsAHorizonByItsNameToo) {
+    for (const auto& [type, name, readBack] :
+         {Row{"LineShape", "Horizon", "[[100,120],[200,120]]"}, Row{"LineShape", "MovedHLine", "[[100,120],[200,120]]"},
+          Row{"LineShape", "horizon", "[[130,120],[230,120]]"}}) {
+        ScenarioHost host(GridView, GridView);
+        const std::string member = "{\"" + std::string(name) + "\":";
+        const std::string config = member + "[[100,100],[200,100]]}";
+        const ShapeID shape = host.container.AddShape({TheView, type, "", name, config.c_str(), ""});
+        host.Drag({150, 102}, {180, 122});
+        EXPECT_EQ(host.Config(shape), member + readBack + "}");
+    }
+}
+
 TEST(Line, FollowsTheMouseAndIsLetGoWhenItMeetsTheBorder) {
     for (const char* type : {"LineShape", "ArrowLineShape"}) {
         ScenarioHost host(GridView, GridView);

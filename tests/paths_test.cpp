@@ -31,6 +31,8 @@ std::string Rule(std::string points) {
 const Lines On{"capture on"};
 const Lines Moved{"select rule", "capture on", "state rule 4>3", "capture off"};
 const Lines Reshaped{"select rule", "capture on", "state rule 5>3", "capture off"};
+const Lines RemovedWhileMoved{"select rule", "capture on", "capture off", "state rule 4>0"};
+const Lines RemovedWhileReshaped{"select rule", "capture on", "capture off", "state rule 5>0"};
 const Lines Removed{"capture off", "state rule 3>0"};
 
 /// Does what the words say: "press 10 20 move 30 40 release 30 40", "click", "right".
@@ -125,9 +127,13 @@ TEST(Paths, AreReshapedMovedDeletedAndGivenVertices) {
         {"BrokenLine", "EnableRBtnDelete", Hook, "right 148 152", {}, Hook}, // beside the edge that would close it
         {"BrokenLine", "EnableRBtnDelete", Hook, "right 180 120", Removed, ""},
         {"BrokenLine", "EnableRBtnDelete", Hook, "right 150 98", Removed, ""},
+        {"BrokenLine", "EnableRBtnDelete", Hook, "press 150 102 right 9 9 right 150 98", RemovedWhileMoved, ""},
+        {"BrokenLine", "EnableRBtnDelete", Hook, "press 100 100 right 180 120", RemovedWhileReshaped, ""},
+        {"BrokenLine", "", Hook, "press 100 100 right 180 120 release 100 100", Reshaped, Hook},
 
         {"VirablePolygon", "", Hook, "right 200 150 right 150 100", {}, "100,100 200,100 200,150 200,200"},
         {"VirablePolygon", "", Hook, "right 150 153", {}, "150,153 100,100 200,100 200,200"},
+        {"VirablePolygon", "Convex", Hook, "right 150 103", {}, "100,100 150,103 200,100 200,200"},
         {"VirablePolygon", "EnableRBtnDelete", Hook, "right 180 120", {}, Hook}, // right presses are for vertices
     });
 }
@@ -152,13 +158,25 @@ TEST(Paths, AreDrawnOnTheSurface) {
     const ShapeID line = host.Add("BrokenLine");
     host.container.SetCaption(line, "way");
     Act(host, "click 9 9 click 90 9");
-    host.container.SetPointLimits(line, 2, 3);
-    Act(host, "click 90 80 move -9 40.5"); // full already
+    Act(host, "move -9 40.5");
     EXPECT_EQ(host.Paint(), (Lines{"line (9,9)-(90,9) w2 yellow", "line (90,9)-(0,40) w2 yellow",
                                    "rect (6,6)-(12,12) w2 yellow", "rect (87,6)-(93,12) w2 yellow"}));
     host.container.SetPointLimits(line, 3, 3);
     host.Click(90, 80);
     EXPECT_EQ(host.Paint()[2], "caption \"way\" at (9,9)(90,9)(90,80) yellow clip 0,0,800,600");
+}
+
+TEST(Paths, GrowBeyondAMaximumThatTheyNeverMeet) {
+    for (const char* type : {"Polygon", "BrokenLine"}) {
+        for (const int maximum : {-1, 0, 1, 2}) {
+            ScenarioHost host(GridView, GridView);
+            const ShapeID shape = host.Add(type);
+            Act(host, "click 100 100 click 200 100");
+            host.container.SetPointLimits(shape, maximum, 4); // below the count
+            Act(host, "click 200 200 right 9 9 click 150 250 click 100 200 right 9 9");
+            EXPECT_EQ(host.Config(shape), Rule("100,100 200,100 200,200 150,250 100,200")) << type << maximum;
+        }
+    }
 }
 
 TEST(Polygon, PointsAcrossItsFirstEdge) {

@@ -38,19 +38,21 @@ TEST(Rectangle, IsDrawnByDraggingInAnyDirection) {
 
 TEST(Rectangle, ThatCannotBeBuiltWaitsToBeDrawnAgain) {
     ScenarioHost host;
-    host.Add("Rect");
+    const ShapeID shape = host.Add("Rect");
 
     host.Press(801, 10);
     EXPECT_EQ(host.TakeLog(), Lines{}) << "a press outside the view";
     host.Click(100, 100);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture off"})) << "released where it was pressed";
+    EXPECT_EQ(host.Config(shape), "");
     host.Press(100, 100);
     host.Move(150, 150);
     host.Move(109, 150);
     EXPECT_EQ(host.Paint(), SelectedRectangle({100, 100}, {150, 150})) << "too narrow: the last good one stays";
     host.Release(109, 150);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "redraw", "capture off"}));
-    EXPECT_EQ(host.Paint(), Lines{}) << "a failed creation leaves no corners";
+    EXPECT_EQ(host.Paint(), SelectedRectangle({100, 100}, {150, 150})) << "and waits to be replaced";
+    EXPECT_NE(host.Config(shape), "");
 
     host.Press(700, 500);
     host.Move(900, 700);
@@ -142,7 +144,9 @@ TEST(Rectangle, ReadsItsConfigurationOrRefusesIt) {
           Case{R"({"rule":[[100,100]]})", Refused}, Case{R"({"rule":[[100,100],[200,200],[300,300]]})", Refused},
           Case{R"({"rule":{"0":[1,1],"1":[2,2]}})", Refused}, Case{R"({"rule":[["a",100],[200,200]]})", Refused},
           Case{R"({"rule":[100,200]})", Refused}, Case{R"({"Rule":[[100,100],[200,200]]})", Refused},
-          Case{R"([[100,100],[200,200]])", Refused}, Case{"{", Refused}}) {
+          Case{R"([[100,100],[200,200]])", Refused}, Case{"{", Refused},
+          Case{R"({"rule":[[100,100],[200,200],]})", Refused}, Case{R"({"rule":[[100,100],[200,200]],})", Refused},
+          Case{"\xEF\xBB\xBF{\"rule\":[[100,100],[200,200]]}", Refused}}) {
         ScenarioHost host(GridView, GridView);
         const ShapeID shape = host.Add("Rect", config);
         EXPECT_EQ(shape == 0 ? Refused : host.Config(shape), readBack) << config;
@@ -175,6 +179,8 @@ TEST(Rectangle, DrawsAsItsStyleSays) {
              Case{R"({"LineThickness":5,"UnSelLineThickness":3})", " w5 yellow", " w3 blue"},
              Case{R"({"LineThickness":5,"PenStyle":1})", " w1 yellow dashed", " w1 blue dashed"},
              Case{incomplete, " w2 1,2,3", " w2 blue"},
+             Case{R"({"ShapeColor":[7,"x",[],{"ColorName":"SelColor","R":1,"G":2,"B":3}]})", " w2 1,2,3", " w2 blue"},
+             Case{R"({"LineThickness":7,})", " w2 yellow", " w2 blue"},
              Case{"TextOnly,EnableRBtnDelete", " w2 yellow", " w2 blue"},
          }) {
         ScenarioHost host(GridView, GridView);

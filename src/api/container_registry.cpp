@@ -3,9 +3,9 @@
 namespace rulecanvas {
 
 ContainerRegistry::~ContainerRegistry() {
+    EndingShapes ending;
     for (const auto& [handle, container] : containers) {
-        container->ForgetHost(); // which may be gone, or in the middle of unloading
-        container->Close();
+        container->Abandon(ending);
     }
 }
 

@@ -13,19 +13,13 @@ using platform::LockGuard;
 
 namespace {
 
-void RetireOnce(CVideoAnalyseShape& shape) {
-    if (shape.ClaimRetirement()) {
-        shape.Retire();
-    }
-}
-
 /// Ends a shape that was never handed to the host.
 class UnfinishedShape {
   public:
     explicit UnfinishedShape(ShapePtr unfinished) : shape(std::move(unfinished)) {}
     ~UnfinishedShape() {
         if (shape != nullptr) {
-            RetireOnce(*shape);
+            EndingShapes().Add(shape);
         }
     }
     UnfinishedShape(const UnfinishedShape&) = delete;
@@ -77,16 +71,22 @@ bool CVideoAnalyseContainer::DeleteShape(ShapeID id) {
     } else if (shape->ClaimRetirement()) {
         shape->ClearShape();
         shapes.Erase(id);
-        shape->Retire();
+        EndingShapes().AddClaimed(shape);
     }
     return true;
 }
 
 void CVideoAnalyseContainer::DeleteAllShapes() {
+    LockGuard guard(containerMutex);
+    EndingShapes ending;
+    EndShapes(ending);
+}
+
+void CVideoAnalyseContainer::EndShapes(EndingShapes& ending) {
     DebugTrace("DeleteAllVideoAnalyseShape\n");
     LockGuard guard(containerMutex);
     for (const auto& [id, shape] : shapes.TakeAll()) {
-        RetireOnce(*shape);
+        ending.Add(shape);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "container/ending_shapes.h"
 #include "container/handler.h"
 #include "container/host.h"
 #include "container/listener_list.h"
@@ -33,8 +34,8 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     ContainerHandle GetHandle() const { return handle; }
     /// Ends the shapes, then forgets the host.
     void Close();
-    /// No call reaches the host from now on.
-    void ForgetHost();
+    /// The same without the host hearing of it, for a container that goes with the library.
+    void Abandon(EndingShapes& ending);
 
     void SetNotifyDelegate(const CDelegate& delegate) { notifyDelegate.Set(delegate); }
     void SetAdjustPointDelegate(const CDelegate& delegate) { adjustPointDelegate.Set(delegate); }
@@ -111,6 +112,9 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     void RequestRedraw();
     void OfferToAllShapes(const ContainerMouseEvent& event);
 
+    /// No call reaches the host from now on.
+    void ForgetHost();
+    void EndShapes(EndingShapes& ending);
     std::string TipOf(ViewID view) const;
     void DrawTip(ViewID view, IContainerGraphics& surface);
 

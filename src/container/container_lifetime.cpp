@@ -73,6 +73,12 @@ void CVideoAnalyseContainer::Close() {
     ForgetHost();
 }
 
+void CVideoAnalyseContainer::Abandon(EndingShapes& ending) {
+    ForgetHost(); // which may be gone, or in the middle of unloading
+    liveContainers->Remove(this);
+    EndShapes(ending);
+}
+
 void CVideoAnalyseContainer::ForgetHost() {
     closed = true;
     const CDelegate none{nullptr, nullptr};

@@ -73,9 +73,8 @@ void CClickPathShape::HandleRButtonEvent(const ContainerMouseEvent& event, int h
     DeleteByRightButton(hitLevel);
 }
 
-/// A maximum below the minimum ends a drawing too, else nothing could.
 bool CClickPathShape::HasEnoughPoints() const {
-    return static_cast<int>(PointCount()) >= std::min(minPtNum.load(), std::max(maxPtNum.load(), 1));
+    return static_cast<int>(PointCount()) >= minPtNum;
 }
 
 bool CClickPathShape::OfferFinish() {
@@ -94,10 +93,8 @@ void CClickPathShape::StartDrawing(const PointF& press) {
 void CClickPathShape::ContinueDrawing(const PointF& press) {
     bool isLast = false;
     const bool added = EditPoints([&](Points& path) {
-        const int count = static_cast<int>(path.size());
-        const int most = maxPtNum;
-        isLast = count + 1 == most;
-        if (count == 0 || count >= most || !AcceptsPoint(press) || press == path.back() ||
+        isLast = static_cast<int>(path.size()) + 1 == maxPtNum;
+        if (path.empty() || !AcceptsPoint(press) || press == path.back() ||
             !PointAcceptanceHook(path.back(), press, isLast)) {
             return false;
         }

@@ -54,12 +54,12 @@ class CClickPathShape : public CGestureShape {
     bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
     void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
 
+    int LevelAt(const PointF& press) const;
     bool IsConvexEnough(const Points& path) const;
     bool IsOutsideLimit(const PointF& point) const;
 
   private:
     bool HasEnoughPoints() const;
-    int LevelAt(const PointF& press) const;
     bool AcceptsNext(const PointF& last, const PointF& next, bool isLast);
     bool AcceptsVertexMove(int index, const PointF& position);
     bool LoadPoints(const char* shapeData);

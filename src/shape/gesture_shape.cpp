@@ -6,13 +6,6 @@
 #include <algorithm>
 
 namespace rulecanvas {
-namespace {
-
-/// Long enough for a paint on another thread to finish with the figure.
-constexpr int PauseBeforeEnd = 10;
-
-} // namespace
-
 CGestureShape::CGestureShape()
     : moveListener(MouseListener::Bind<&CGestureShape::HearMouseMove>(this)),
       upListener(MouseListener::Bind<&CGestureShape::HearButtonUp>(this)) {
@@ -72,12 +65,6 @@ void CGestureShape::Dispose() {
     if (captured) {
         Capture(false);
     }
-    AwaitPaint();
-    ClearPoints();
-}
-
-void CGestureShape::AwaitPaint() const {
-    platform::Pause(PauseBeforeEnd);
 }
 
 bool CGestureShape::IsShownIn(ViewID view) const {

@@ -21,6 +21,7 @@ class CGestureShape : public CVideoAnalyseShape {
     bool RestartDrawing() override;
     /// All points, or none when one of them would leave the view.
     bool MoveShape(float dx, float dy) override;
+    bool AwaitsPaint() const override { return true; }
 
   protected:
     virtual void StartDrawing(const PointF& press) = 0;
@@ -31,8 +32,6 @@ class CGestureShape : public CVideoAnalyseShape {
     virtual bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) = 0;
 
     void Dispose() override;
-    /// Gives a paint on another thread time to finish with the figure. A figure that ends at once overrides it.
-    virtual void AwaitPaint() const;
 
     /// Whether a paint of the view shows the shape.
     virtual bool IsShownIn(ViewID view) const;

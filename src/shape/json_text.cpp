@@ -21,6 +21,8 @@ platform::Mutex& ParserMutex() {
 Json::CharReaderBuilder MakeReaderBuilder() {
     Json::CharReaderBuilder builder;
     builder["collectComments"] = false;
+    builder["allowTrailingCommas"] = false;
+    builder["skipBom"] = false;
     builder["stackLimit"] = DeepestNesting;
     return builder;
 }

@@ -85,8 +85,12 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
 
     /// True for the first caller only: whoever gets it ends the shape.
     bool ClaimRetirement() { return !retirementClaimed.exchange(true); }
-    /// Undoes what the shape did with its container, then cuts the connection.
+    /// Undoes what the shape did with its container, then cuts the connection. From now on no paint begins to draw it.
     void Retire();
+    /// Frees the figure, which a paint that had begun may have been drawing.
+    void FreeFigure() { ClearPoints(); }
+    /// Whether a paint on another thread is given time to finish between the two.
+    virtual bool AwaitsPaint() const = 0;
     bool IsRetired() const { return container == nullptr; }
 
     Delegate<void(int, int)> SelectNotifyHook;

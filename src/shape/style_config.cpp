@@ -83,7 +83,7 @@ class StyleReader {
     }
 
     void ApplyColour(const Json::Value& entry) {
-        if (!entry.isMember("ColorName")) {
+        if (!entry.isObject() || !entry.isMember("ColorName")) {
             return;
         }
         const std::string colourName = entry["ColorName"].asString();

@@ -28,6 +28,15 @@ CVideoAnalyseShape* CBrokenLineShape::HitTestLButtonDown(const ContainerMouseEve
     return this;
 }
 
+CVideoAnalyseShape* CBrokenLineShape::HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    if (enableRBtnDelete && (state == Moving || state == Adjusting)) {
+        const int level = LevelAt(PositionOf(event));
+        hitLevel = level == Outside ? hitLevel : level;
+        return this;
+    }
+    return CClickPathShape::HitTestRButtonDown(event, hitLevel);
+}
+
 bool CBrokenLineShape::IsOnOutline(const Points& path, const PointF& press) const {
     return OnPath(path, press);
 }

@@ -10,6 +10,8 @@ class CBrokenLineShape final : public CClickPathShape {
     CBrokenLineShape();
 
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
+    /// A line that may be deleted may be so in the middle of a drag, too.
+    CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
 
   protected:

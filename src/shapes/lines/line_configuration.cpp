@@ -20,8 +20,8 @@ bool ReachesAcrossTheView(const std::string& name) {
 bool CLineShape::SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) {
     ParseStyleConfig(styleOrMode);
     BeginConfiguration(shapeName);
-    horizon = horizon || IsWord(styleOrMode, "Horizon");
-    movedHLine = movedHLine || IsWord(styleOrMode, "MovedHLine");
+    horizon = horizon || IsWord(styleOrMode, "Horizon") || name == "Horizon";
+    movedHLine = movedHLine || IsWord(styleOrMode, "MovedHLine") || name == "MovedHLine";
     if (!IsEmpty(shapeData) && !LoadPoints(shapeData)) {
         return false;
     }

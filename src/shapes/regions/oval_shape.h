@@ -24,13 +24,13 @@ class COvalShape : public CGestureShape {
     void ClearShape() override;
     /// An oval stays as it is: to draw another one, the host makes a new shape.
     bool RestartDrawing() override;
+    bool AwaitsPaint() const override { return false; }
 
   protected:
     void StartDrawing(const PointF& press) override;
     void StartEditing(const PointF& press, int hitLevel) override;
     bool OnMouseMove(const PointF& position) override;
     bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
-    void AwaitPaint() const override {}
     /// In every view. A hidden oval still shows as long as its last drag has an extent, so that the user sees what the
     /// mouse does.
     bool IsShownIn(ViewID view) const override;

@@ -66,7 +66,7 @@ void CPolygonShape::InsertVertex(const PointF& press) {
             const size_t second = (edge + 1) % ring.size();
             if (NearSegment(ring[edge], ring[second], press)) {
                 ring.insert(ring.begin() + static_cast<std::ptrdiff_t>(second), press);
-                return AcceptsVertex(ring, second);
+                return true;
             }
         }
         return false;

@@ -121,8 +121,7 @@ bool CRectangleShape::FinishDrawing(const PointF& release, const ContainerMouseE
         return false; // the host answered a question of this step by ending the drawing
     }
     if (release == anchorPoint || !RebuildFromAnchor(release)) {
-        ClearPoints();
-        state = Waiting;
+        state = Waiting; // with the corners that the drag had reached, until another drawing replaces them
         return false;
     }
     CreationFinishedHook(event);

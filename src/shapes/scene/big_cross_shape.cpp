@@ -68,10 +68,7 @@ bool CBigCrossShape::ReadCrosses(const Json::Value& member, const ViewSize& view
     if (member.isNull()) {
         return true;
     }
-    constexpr Json::ArrayIndex bandCount = 2 * CrossHairs;
-    if (!member.isArray() || member.size() < bandCount) {
-        return false;
-    }
+    constexpr Json::ArrayIndex bandCount = 2 * CrossHairs; // bands that are missing count as zeros
     for (Json::ArrayIndex i = 0; i < bandCount; i += 2) {
         const double y = MiddleOf(member[i], Top);
         const double x = MiddleOf(member[i + 1], Left);

@@ -19,7 +19,7 @@ ClientRect HitBoxOf(const PointF& cross) {
 } // namespace
 
 CVideoAnalyseShape* CPlacedCrosses::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    if (state == Waiting || state == Drawing) {
+    if (state != Complete && state != Deleted) {
         hitLevel = Busy;
     } else if (state == Complete) {
         grabbedIndex = CrossAt(PositionOf(event));

@@ -16,6 +16,7 @@ class CPlacedCrosses : public CGestureShape {
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
+    bool AwaitsPaint() const override { return false; }
 
   protected:
     /// How many crosses make the shape complete; one does in any case.
@@ -33,7 +34,6 @@ class CPlacedCrosses : public CGestureShape {
     void ContinueDrawing(const PointF& press) override;
     bool OnMouseMove(const PointF& position) override;
     bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
-    void AwaitPaint() const override {}
 
     /// False, with nothing changed, when there is no such cross.
     bool MoveCross(size_t index, const PointF& position);

@@ -31,7 +31,7 @@ CSpotShape::CSpotShape() {
 
 /// A press beside the spot is answered even while the spot is not selected: it then counts as one that deselects.
 CVideoAnalyseShape* CSpotShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    if (state == Waiting || state == Drawing) {
+    if (state != Complete && state != Deleted) {
         hitLevel = Busy;
     } else if (state == Complete && Covers(PositionOf(event))) {
         hitLevel = OnOutline;

@@ -18,6 +18,7 @@ class CSpotShape : public CGestureShape {
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
     /// The spot as it would stand at `current`.
     bool BuildDragPoints(int index, const PointF& current, Points& out) override;
+    bool AwaitsPaint() const override { return false; }
 
   protected:
     void StartDrawing(const PointF& press) override;
@@ -25,7 +26,6 @@ class CSpotShape : public CGestureShape {
     bool OnMouseMove(const PointF& position) override;
     bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
     void Dispose() override;
-    void AwaitPaint() const override {}
     void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
 
   private:

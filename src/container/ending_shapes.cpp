@@ -1,0 +1,33 @@
+#include "container/ending_shapes.h"
+
+#include <algorithm>
+
+namespace rulecanvas {
+namespace {
+
+/// Milliseconds; long enough for a paint to finish with a figure.
+constexpr int PauseBeforeEnd = 10;
+
+} // namespace
+
+void EndingShapes::Add(const ShapePtr& shape) {
+    if (shape->ClaimRetirement()) {
+        AddClaimed(shape);
+    }
+}
+
+void EndingShapes::AddClaimed(const ShapePtr& shape) {
+    shapes.push_back(shape);
+    shape->Retire();
+}
+
+EndingShapes::~EndingShapes() {
+    if (std::any_of(shapes.begin(), shapes.end(), [](const ShapePtr& shape) { return shape->AwaitsPaint(); })) {
+        platform::Pause(PauseBeforeEnd);
+    }
+    for (const ShapePtr& shape : shapes) {
+        shape->FreeFigure();
+    }
+}
+
+} // namespace rulecanvas
