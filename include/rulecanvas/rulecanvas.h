@@ -358,11 +358,11 @@ RULECANVAS_API uint32_t RULECANVAS_CALL AddVideoAnalyseShape(ContainerHandle con
                                                              uint32_t second, uint32_t third);
 
 /* Gives the capture back for a shape, clears and destroys it, without a notification. 1 for every known container,
- * whether or not the shape is known. Lasts about 10 ms for most types, so that a paint of another thread can finish.
- * Must not overlap the mouse handler. */
+ * whether or not the shape is known. Lasts about 10 ms but for ovals, crosses and spots, so that a paint of another
+ * thread can finish. Must not overlap the mouse handler. */
 RULECANVAS_API Bool32 RULECANVAS_CALL DeleteVideoAnalyseShape(ContainerHandle container, ShapeID shape);
 
-/* Destroys all shapes of the container, without notifications. Must not overlap the mouse handler. */
+/* Destroys all shapes of the container, without notifications, in about 10 ms. Must not overlap the mouse handler. */
 RULECANVAS_API void RULECANVAS_CALL DeleteAllVideoAnalyseShape(ContainerHandle container);
 
 /* Selects or deselects a shape and shows or hides its handles; other shapes stay as they are. 1; 0 when unknown. */

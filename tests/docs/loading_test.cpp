@@ -26,6 +26,10 @@ const Sample Samples[] = {
 #include "table.inc"
 };
 
+void PrintTo(const Sample& sample, std::ostream* out) {
+    *out << sample.place;
+}
+
 void ExpectEveryTypeHeeds(const std::string& types, const char* style) {
     std::istringstream list(types);
     for (std::string type; std::getline(list, type, ',');) {
