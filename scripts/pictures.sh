@@ -51,7 +51,7 @@ three_stages() {
     piece=$(crop "${part[@]}")
     play "reference/$name"
     write_small "$reference/$name.png" \
-        "[0]$piece,pad=iw+6:ih:0:0:white[l];[1]$piece,pad=iw+6:ih:0:0:white[m];[2]$piece[r];[l][m][r]hstack=3" \
+        "[0]${piece},pad=iw+6:ih:0:0:white[l];[1]${piece},pad=iw+6:ih:0:0:white[m];[2]${piece}[r];[l][m][r]hstack=3" \
         -i "$folder/1.png" -i "$folder/2.png" -i "$folder/3.png"
 }
 

@@ -7,11 +7,17 @@
 namespace rulecanvas::test {
 namespace {
 
+/// Where every figure has a point, give or take two pixels, and a place in it or on it.
 constexpr PointF FirstPoint{98, 73};
 constexpr PointF NearMiddle{197, 144};
 constexpr PointF Step{10, 12};
 
-/// Every figure has a point at or near FirstPoint, and NearMiddle in it or on it.
+PointF Beyond(const PointF& point) {
+    return PointF{point.x + Step.x, point.y + Step.y};
+}
+
+} // namespace
+
 std::string GeometryOf(const std::string& type) {
     static const std::map<std::string, std::string> particular{
         {"Rect", R"({"rule":[[1000,1000],[3000,3000]]})"},
@@ -24,12 +30,6 @@ std::string GeometryOf(const std::string& type) {
     const auto found = particular.find(type);
     return found == particular.end() ? R"({"rule":[[1000,1000],[3000,3000],[5000,1000]]})" : found->second;
 }
-
-PointF Beyond(const PointF& point) {
-    return PointF{point.x + Step.x, point.y + Step.y};
-}
-
-} // namespace
 
 Lines BehaviourOf(const std::string& type, const std::string& option) {
     ScenarioHost host;

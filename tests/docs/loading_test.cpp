@@ -23,7 +23,7 @@ struct Sample {
 };
 
 const Sample Samples[] = {
-#include "table.inc"
+#include "samples.inc"
 };
 
 void PrintTo(const Sample& sample, std::ostream* out) {

@@ -3,7 +3,7 @@
 
 usage: samples.py check ROOT                  are the documents sound? says what is wrong and ends with 1
        samples.py table ROOT OUTPUT           the configuration and style samples as rows of a C++ table
-       samples.py matrix ROOT OUTPUT          the table of style keys as rows of a C++ table
+       samples.py matrix ROOT PAGE HEADING OUTPUT   the table behind a heading, a row a type, as cells of a C++ table
        samples.py code ROOT DOCUMENT OUTPUT   the C++ samples of one document as one source
        samples.py first-program ROOT BUILD RUN...   builds the guide's first program as the guide says, against the Windows
                                               library in the folder BUILD, and runs it with the command RUN
@@ -184,17 +184,17 @@ def table(root):
     return "".join(rows)
 
 
-def matrix(root):
-    """The table behind the heading "Which type heeds which key": a row a type, a column a key."""
-    page = (root / "docs/reference/style.md").read_text(encoding="utf-8")
-    section = page.split("## Which type heeds which key", 1)[1]
-    lines = [line for line in section.split("\n## ", 1)[0].splitlines() if line.startswith("|")]
-    cells = [[cell.strip().strip("`") for cell in line.strip("|").split("|")] for line in lines]
-    keys, rows = cells[0][1:], cells[2:]
+def matrix(root, page, heading):
+    text = (root / page).read_text(encoding="utf-8")
+    section = text.split(f"## {heading}\n", 1)[1].split("\n## ", 1)[0]
+    lines = [line for line in section.splitlines() if line.startswith("|")]
+    cells = [[cell.strip() for cell in line.strip("|").split("|")] for line in lines]
+    columns, rows = cells[0][1:], cells[2:]
     return "".join(
-        f"{{{raw(row[0])}, {raw(key)}, {'true' if mark == 'yes' else 'false'}}},\n"
+        f"{{{raw(type_name)}, {raw(column.strip('`'))}, {raw(value)}}},\n"
         for row in rows
-        for key, mark in zip(keys, row[1:])
+        for type_name in re.findall(r"`(\w+)`", row[0])
+        for column, value in zip(columns, row[1:])
     )
 
 
@@ -245,12 +245,10 @@ def main(command, root, *arguments):
         return check(root)
     if command == "first-program":
         return first_program(root, *arguments)
+    *inputs, output = arguments
     if command == "code":
-        document, output = arguments
-        text = code(root, Path(document).resolve())
-    else:
-        (output,) = arguments
-        text = {"table": table, "matrix": matrix}[command](root)
+        inputs = [Path(inputs[0]).resolve()]
+    text = {"table": table, "matrix": matrix, "code": code}[command](root, *inputs)
     Path(output).write_text(text, encoding="utf-8")
     return 0
 
