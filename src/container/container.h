@@ -4,6 +4,7 @@
 #include "container/handler.h"
 #include "container/host.h"
 #include "container/listener_list.h"
+#include "container/press_index.h"
 #include "container/shape_map.h"
 #include "shape/shape_container.h"
 
@@ -15,17 +16,15 @@
 
 namespace rulecanvas {
 
-class LiveContainers;
+class PaintPass;
 
 /// The shapes drawn over one surface of the host, which may show several views, with the host's delegates and the two
 /// handlers through which the host's events and paints come in.
 ///
-/// Made disabled by Create; ended by Close. A call that is still running when the container is closed, because the host
-/// closed it from inside a callback, keeps the memory until it returns but no longer reaches the host.
-class CVideoAnalyseContainer final : public IShapeContainer,
-                                     public std::enable_shared_from_this<CVideoAnalyseContainer> {
+/// Made disabled; ended by Close. A call that is still running when the container is closed, because the host closed it
+/// from inside a callback, keeps the memory until it returns but no longer reaches the host.
+class CVideoAnalyseContainer final : public IShapeContainer {
   public:
-    static std::shared_ptr<CVideoAnalyseContainer> Create(void* hostObject);
     explicit CVideoAnalyseContainer(void* hostObject);
     ~CVideoAnalyseContainer();
     CVideoAnalyseContainer(const CVideoAnalyseContainer&) = delete;
@@ -42,8 +41,8 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     void SetClientRectDelegate(const CDelegate& delegate) { clientRectDelegate.Set(delegate); }
     void SetCaptureDelegate(const CDelegate& delegate) { captureDelegate.Set(delegate); }
     void SetTranslateDelegate(const CDelegate& delegate) { translateDelegate.Set(delegate); }
-    void CopyMouseHandler(ContainerHandlerHolder& hostHolder) const { mouseHandler.CopyTo(hostHolder); }
-    void CopyDrawHandler(ContainerHandlerHolder& hostHolder) const { drawHandler.CopyTo(hostHolder); }
+    void CopyMouseHandler(ContainerHandlerHolder& hostHolder) { mouseHandler.CopyTo(hostHolder); }
+    void CopyDrawHandler(ContainerHandlerHolder& hostHolder) { drawHandler.CopyTo(hostHolder); }
 
     /// Null texts as the host passed them. 0: unknown type or refused configuration.
     ShapeID CreateMainShape(ViewID view, const char* label, const char* typeName, const char* shapeName,
@@ -53,12 +52,12 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     void DeleteAllShapes();
     bool SelectShape(ShapeID id, bool select);
     int SetShapeDirection(ShapeID id, int direction);
-    void Enable(bool enable) { enabled = enable; }
+    bool Enable(bool enable);
     bool GetShapeConfig(ShapeID id, char* buffer, int size);
     bool EnableShape(ShapeID id, bool enable);
     bool RedrawShape(ShapeID id);
-    ShapeID GetSelectedShape() const;
-    bool SetShowName(ShapeID id, const char* text);
+    ShapeID GetSelectedShape();
+    void SetShowName(ShapeID id, const char* text);
     void ShowShape(ShapeID id, bool show);
     void SetTip(ViewID view, const char* text);
     /// Refits every shape to the view.
@@ -73,27 +72,20 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     void OnDraw(ViewID view, IContainerGraphics& surface);
 
     ClientRect GetClientRect(ViewID view) override;
-    bool IsInClientArea(ViewID view, const PointF& point) override;
-    bool RequestCapture(bool take) override;
-    void RegisterWinMouseEvent(MouseListenerKind kind, const ShapeOwner& owner, const MouseListener& listener) override;
-    void unRegisterWinMouseEvent(MouseListenerKind kind, const MouseListener& listener) override;
-    void RegisterDrawEvent(const ShapeOwner& owner, const DrawListener& listener) override;
-    void unRegisterDrawEvent(const DrawListener& listener) override;
+    void RequestCapture(bool take) override;
+    void RegisterWinMouseEvent(MouseListenerKind kind, const ShapePtr& listener) override;
+    void unRegisterWinMouseEvent(MouseListenerKind kind, CVideoAnalyseShape& listener) override;
+    void RegisterDrawEvent(const ShapePtr& listener) override;
+    void unRegisterDrawEvent(CVideoAnalyseShape& listener) override;
     void SendHostHint(uint32_t value) override;
+    bool HasNotifyDelegate() const override { return notifyDelegate.IsSet(); }
     void Notify(const std::string& event) override;
     ViewSize GetPixelCount() override;
+    void ClaimChanged(CVideoAnalyseShape& shape) override;
+    void FitChanged() override { fitChanged = true; }
 
   private:
-    using MouseListenerList = ListenerList<const ContainerMouseEvent&>;
-    using DrawListenerList = ListenerList<ViewID, IContainerGraphics*>;
     using HitTest = CVideoAnalyseShape* (CVideoAnalyseShape::*)(const ContainerMouseEvent&, int&);
-
-    static uintptr_t RULECANVAS_THISCALL MouseOperation(void* container, uintptr_t ignored, uintptr_t event);
-    static uintptr_t RULECANVAS_THISCALL DrawOperation(void* container, uintptr_t view, uintptr_t surface);
-
-    ShapePtr DeepFind(ShapeID id) const;
-    ShapePtr FindParent(ShapeID id) const;
-    MouseListenerList& ListenersOf(MouseListenerKind kind);
 
     /// The shape that an event goes to.
     struct Hit {
@@ -103,23 +95,29 @@ class CVideoAnalyseContainer final : public IShapeContainer,
         bool Exists() const { return shape != nullptr && !shape->IsRetired(); }
     };
 
+    ShapePtr DeepFind(ShapeID id) const;
+    ShapePtr FindParent(ShapeID id) const;
+
     Hit FindHitShape(const ContainerMouseEvent& event, HitTest hitTest);
     void DispatchLeftDown(const ContainerMouseEvent& event);
     void DispatchRightDown(const ContainerMouseEvent& event, HitTest hitTest);
     void DispatchMove(const ContainerMouseEvent& event);
     void DispatchCursorQuery(const ContainerMouseEvent& event);
     void DispatchKey(const ContainerMouseEvent& event);
+    ListenerList& ListenersOf(MouseListenerKind kind);
+    void Feed(MouseListenerKind kind, const ContainerMouseEvent& event);
     void RequestRedraw();
-    void OfferToAllShapes(const ContainerMouseEvent& event);
+    void OfferToComposites(const ContainerMouseEvent& event);
 
-    /// No call reaches the host from now on.
-    void ForgetHost();
-    void EndShapes(EndingShapes& ending);
     std::string TipOf(ViewID view) const;
-    void DrawTip(ViewID view, IContainerGraphics& surface);
+    void DrawTip(PaintPass& pass);
+    void FitAll(const ClientRect& viewZero);
+
+    void ForgetHost();
+    void EndShape(const ShapePtr& shape);
+    void EndShapes(EndingShapes& ending);
 
     const ContainerHandle handle;
-    const std::shared_ptr<LiveContainers> liveContainers;
     HostDelegate<void()> adjustPointDelegate;
     HostDelegate<void(ViewID, ClientRect*)> clientRectDelegate;
     HostDelegate<Bool32(Bool32)> captureDelegate;
@@ -129,22 +127,30 @@ class CVideoAnalyseContainer final : public IShapeContainer,
     std::atomic<int> pixelCountHeight{0};
     HandlerHolder drawHandler;
     HandlerHolder mouseHandler;
-    MouseListenerList buttonUpListeners;
-    MouseListenerList rightButtonUpListeners;
-    MouseListenerList mouseMovedListeners;
+    ListenerList buttonUpListeners{&CVideoAnalyseShape::buttonUpTicket};
+    /// No shape type of this version listens to the right button.
+    ListenerList rightButtonUpListeners{&CVideoAnalyseShape::rightButtonUpTicket};
+    ListenerList mouseMovedListeners{&CVideoAnalyseShape::mouseMovedTicket};
     ShapeMap shapes;
+    PressIndex pressIndex;
     /// Level of the latest hit test; moves, cursor queries and keys go by it.
     int hitLevel = Miss;
     std::atomic<bool> enabled{false};
     std::atomic<bool> closed{false};
-    DrawListenerList drawListeners;
+    ListenerList drawListeners{&CVideoAnalyseShape::drawTicket};
     mutable std::mutex tipMutex;
     std::map<ViewID, std::string> tips;
     TextStyle containerTextStyle{OpaqueColour(255, 255, 0), 0.0F, "STHeitiSC-Light"};
     const HostCalls host;
     /// Held while shapes are inserted, deleted or refitted, also across their calls: the thread that holds it may call
     /// back.
-    platform::Mutex containerMutex;
+    platform::ContainerMutex containerMutex;
+    /// What all shapes were last fitted to; guarded by `containerMutex`.
+    ClientRect lastFit{};
+    /// A shape is fitted to something else.
+    std::atomic<bool> fitChanged{false};
+    /// Where a paint copies one figure after the other; null while a paint has it.
+    std::atomic<ShapeLook*> spareLook{nullptr};
 };
 
 } // namespace rulecanvas

@@ -17,8 +17,8 @@ void EndingShapes::Add(const ShapePtr& shape) {
 }
 
 void EndingShapes::AddClaimed(const ShapePtr& shape) {
-    shapes.push_back(shape);
     shape->Retire();
+    shapes.push_back(shape);
 }
 
 EndingShapes::~EndingShapes() {

@@ -39,6 +39,8 @@ class HostDelegate<Result(Arguments...)> {
         delegate = Delegate<Result(Arguments...)>(words);
     }
 
+    bool IsSet() const { return static_cast<bool>(Current()); }
+
     Result operator()(Arguments... arguments) const { return Current()(arguments...); }
 
   private:

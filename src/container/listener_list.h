@@ -1,74 +1,55 @@
 #pragma once
 
+#include "container/published.h"
 #include "platform/platform.h"
-#include "shape/shape_container.h"
+#include "shape/shape.h"
 
-#include <algorithm>
-#include <atomic>
-#include <memory>
 #include <vector>
 
 namespace rulecanvas {
 
-/// Listeners of shapes, called in the order in which they registered.
+/// Shapes that listen to something, called in the order in which they registered.
 ///
-/// An invocation walks the list as it stood when it began and holds no lock while it calls, so a listener may register
-/// and unregister whatever it likes. One that was unregistered meanwhile, or whose shape is gone, is not called any
-/// more; a shape that is being called stays in memory until the call returns.
-template <class... Arguments>
+/// A walk goes over the list as it stood when it began and holds no lock while it calls, so a listener may register and
+/// unregister whatever it likes. One that was unregistered meanwhile is not called any more; one that is being called
+/// stays in memory until the walk ends.
 class ListenerList {
   public:
-    using Listener = Delegate<bool(Arguments...)>;
+    /// `place` is where the shapes note their tickets for this list.
+    explicit ListenerList(ListenerTicket CVideoAnalyseShape::*place) : ticketOf(place) {}
 
-    void Register(const ShapeOwner& owner, const Listener& listener) {
-        platform::LockGuard guard(mutex);
-        entries.push_back(std::make_shared<Entry>(owner, listener));
-        snapshot.reset();
-    }
+    void Register(const ShapePtr& listener);
+    /// Nothing happens for a shape that is not in the list.
+    void Unregister(CVideoAnalyseShape& listener);
+    bool IsEmpty();
 
-    void Unregister(const Listener& listener) {
-        platform::LockGuard guard(mutex);
-        const auto found = std::find_if(entries.begin(), entries.end(),
-                                        [&](const auto& entry) { return entry->listener == listener; });
-        if (found != entries.end()) {
-            (*found)->registered = false;
-            entries.erase(found);
-            snapshot.reset();
-        }
-    }
-
-    void Invoke(Arguments... arguments) {
-        const std::shared_ptr<const Entries> current = Snapshot();
-        for (const auto& entry : *current) {
-            const std::shared_ptr<CVideoAnalyseShape> pinned = entry->owner.lock();
-            if (pinned && entry->registered) {
-                entry->listener(arguments...);
+    template <class Call>
+    void Invoke(Call call) {
+        const std::shared_ptr<const Entries> walked = Snapshot();
+        for (const Entry& entry : *walked) {
+            if (entry.listener != nullptr && ((*entry.listener).*ticketOf) == entry.ticket) {
+                call(*entry.listener);
             }
         }
     }
 
   private:
     struct Entry {
-        Entry(const ShapeOwner& entryOwner, const Listener& entryListener)
-            : owner(entryOwner), listener(entryListener) {}
-
-        const ShapeOwner owner;
-        const Listener listener;
-        std::atomic<bool> registered{true};
+        uint64_t ticket;
+        /// Null once the listener was unregistered.
+        ShapePtr listener;
     };
-    using Entries = std::vector<std::shared_ptr<Entry>>;
+    /// In ascending order of ticket.
+    using Entries = std::vector<Entry>;
 
-    std::shared_ptr<const Entries> Snapshot() {
-        platform::LockGuard guard(mutex);
-        if (snapshot == nullptr) {
-            snapshot = std::make_shared<const Entries>(entries);
-        }
-        return snapshot;
-    }
+    std::shared_ptr<const Entries> Snapshot();
+    void Remove(uint64_t ticket, Entries& all);
 
-    Entries entries;
-    std::shared_ptr<const Entries> snapshot; // null after a change
-    platform::Mutex mutex;
+    ListenerTicket CVideoAnalyseShape::*const ticketOf;
+    platform::ContainerMutex mutex;
+    Published<Entries> entries;
+    uint64_t lastTicket = 0;
+    size_t goneCount = 0;
 };
 
 } // namespace rulecanvas

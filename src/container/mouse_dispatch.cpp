@@ -18,7 +18,7 @@ void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
         DispatchLeftDown(event);
         break;
     case RULECANVAS_MOUSE_LEFT_UP:
-        buttonUpListeners.Invoke(event);
+        Feed(MouseListenerKind::ButtonUp, event);
         break;
     case RULECANVAS_MOUSE_MOVED:
         DispatchMove(event);
@@ -27,10 +27,10 @@ void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
         DispatchRightDown(event, &CVideoAnalyseShape::HitTestRButtonDown);
         break;
     case RULECANVAS_MOUSE_RIGHT_UP:
-        rightButtonUpListeners.Invoke(event);
+        Feed(MouseListenerKind::RightButtonUp, event);
         break;
     case RULECANVAS_MOUSE_MOVED_EVENT:
-        mouseMovedListeners.Invoke(event);
+        Feed(MouseListenerKind::MouseMoved, event);
         break;
     case RULECANVAS_MOUSE_CURSOR_QUERY:
         DispatchCursorQuery(event);
@@ -50,7 +50,8 @@ void CVideoAnalyseContainer::DispatchLeftDown(const ContainerMouseEvent& event) 
     const Hit hit = FindHitShape(event, &CVideoAnalyseShape::HitTestLButtonDown);
     if (hit.Exists()) {
         SetTip(event.viewId, "");
-        hit.shape->HandleLButtonDownEvent(event, hit.level);
+        const PointerEvent press(event, GetClientRect(event.viewId));
+        hit.shape->HandleLButtonDownEvent(press, hit.level);
     }
 }
 
@@ -65,22 +66,22 @@ void CVideoAnalyseContainer::DispatchMove(const ContainerMouseEvent& event) {
     if (hitLevel == Busy) {
         RequestRedraw();
     }
-    mouseMovedListeners.Invoke(event);
-    OfferToAllShapes(event);
+    Feed(MouseListenerKind::MouseMoved, event);
+    OfferToComposites(event);
 }
 
 void CVideoAnalyseContainer::DispatchCursorQuery(const ContainerMouseEvent& event) {
     if (hitLevel == Inside || hitLevel == OnOutline) {
         SendHostHint(GrabHint);
     }
-    mouseMovedListeners.Invoke(event);
+    Feed(MouseListenerKind::MouseMoved, event);
 }
 
 void CVideoAnalyseContainer::DispatchKey(const ContainerMouseEvent& event) {
     if (event.keyCode == EscapeKey) {
         RequestRedraw();
     }
-    OfferToAllShapes(event);
+    OfferToComposites(event);
 }
 
 /// The shape with the strongest claim, the first one of equals. A press also deselects, on its way, every selected
@@ -89,8 +90,8 @@ CVideoAnalyseContainer::Hit CVideoAnalyseContainer::FindHitShape(const Container
     const bool leftPress = event.code == RULECANVAS_MOUSE_LEFT_DOWN;
     Hit best;
     hitLevel = Miss;
-    for (const ShapePtr& shape : shapes.InOrder()) {
-        if (!shape->IsEnabled() || shape->GetViewId() != event.viewId || shape->IsRetired()) {
+    for (const ShapePtr& shape : pressIndex.FindCandidates(shapes, event.viewId, PositionOf(event))) {
+        if (!shape->IsEnabled() || shape->IsRetired()) {
             continue;
         }
         int level = Miss;
@@ -118,12 +119,35 @@ void CVideoAnalyseContainer::RequestRedraw() {
     }
 }
 
-void CVideoAnalyseContainer::OfferToAllShapes(const ContainerMouseEvent& event) {
-    for (const ShapePtr& shape : shapes.InOrder()) {
+/// No other shape heeds what it does not listen to.
+void CVideoAnalyseContainer::OfferToComposites(const ContainerMouseEvent& event) {
+    for (const ShapePtr& shape : shapes.Composites()) {
         if (!shape->IsRetired()) {
             shape->HandleContainerEvent(event, hitLevel);
         }
     }
+}
+
+ListenerList& CVideoAnalyseContainer::ListenersOf(MouseListenerKind kind) {
+    switch (kind) {
+    case MouseListenerKind::ButtonUp:
+        return buttonUpListeners;
+    case MouseListenerKind::RightButtonUp:
+        return rightButtonUpListeners;
+    case MouseListenerKind::MouseMoved:
+        break;
+    }
+    return mouseMovedListeners;
+}
+
+/// The host is asked for the view's rectangle once, and only when someone listens.
+void CVideoAnalyseContainer::Feed(MouseListenerKind kind, const ContainerMouseEvent& event) {
+    ListenerList& listeners = ListenersOf(kind);
+    if (listeners.IsEmpty()) {
+        return;
+    }
+    const PointerEvent fed(event, GetClientRect(event.viewId));
+    listeners.Invoke([&](CVideoAnalyseShape& shape) { shape.OnMouseListened(kind, fed); });
 }
 
 } // namespace rulecanvas

@@ -1,27 +1,24 @@
 #pragma once
 
+#include "container/published.h"
 #include "shape/shape.h"
 
-#include <map>
-#include <memory>
 #include <mutex>
 #include <vector>
 
 namespace rulecanvas {
 
-using ShapePtr = std::shared_ptr<CVideoAnalyseShape>;
+using ShapeVector = std::vector<ShapePtr>;
 
 /// Shapes as they were at one moment. Later changes of the map leave it alone, and it keeps them in memory.
 class ShapeSnapshot {
   public:
-    using List = std::vector<ShapePtr>;
-
-    explicit ShapeSnapshot(std::shared_ptr<const List> shapes) : list(std::move(shapes)) {}
-    List::const_iterator begin() const { return list->begin(); }
-    List::const_iterator end() const { return list->end(); }
+    explicit ShapeSnapshot(std::shared_ptr<const ShapeVector> shapes) : list(std::move(shapes)) {}
+    ShapeVector::const_iterator begin() const { return list->begin(); }
+    ShapeVector::const_iterator end() const { return list->end(); }
 
   private:
-    std::shared_ptr<const List> list;
+    std::shared_ptr<const ShapeVector> list;
 };
 
 /// The shapes of a container by ShapeID. Its own lock is held for single look-ups and changes only, never while a shape
@@ -31,16 +28,18 @@ class ShapeMap {
     void Insert(const ShapePtr& shape);
     void Erase(ShapeID id);
     /// Empties the map.
-    std::map<ShapeID, ShapePtr> TakeAll();
+    ShapeSnapshot TakeAll();
     /// Null when unknown.
     ShapePtr Find(ShapeID id) const;
     /// All shapes in ascending order of ShapeID.
     ShapeSnapshot InOrder() const;
+    /// The shapes that are made of others, in the same order.
+    ShapeSnapshot Composites() const;
 
   private:
     mutable std::mutex mutex;
-    std::map<ShapeID, ShapePtr> shapes;
-    mutable std::shared_ptr<const ShapeSnapshot::List> ordered; // null after a change
+    mutable Published<ShapeVector> shapes;
+    mutable Published<ShapeVector> composites;
 };
 
 } // namespace rulecanvas

@@ -2,27 +2,37 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <mutex>
+#include <new>
 #include <thread>
 
 namespace rulecanvas::platform {
+namespace {
 
-struct Mutex::State {
-    std::recursive_mutex mutex;
-};
-
-Mutex::Mutex() : state(std::make_unique<State>()) {}
-
-Mutex::~Mutex() = default;
-
-bool Mutex::Lock() {
-    state->mutex.lock();
-    return true;
+std::recursive_mutex& MutexIn(unsigned char* native) {
+    return *std::launder(reinterpret_cast<std::recursive_mutex*>(native));
 }
 
-bool Mutex::Unlock() {
-    state->mutex.unlock();
-    return true;
+} // namespace
+
+ContainerMutex::ContainerMutex() {
+    static_assert(sizeof(std::recursive_mutex) <= sizeof(native));
+    new (native) std::recursive_mutex;
+}
+
+ContainerMutex::~ContainerMutex() {
+    MutexIn(native).~recursive_mutex();
+}
+
+void ContainerMutex::Lock() {
+    MutexIn(native).lock();
+}
+
+void ContainerMutex::Unlock() {
+    MutexIn(native).unlock();
 }
 
 void Pause(int milliseconds) {
@@ -30,6 +40,15 @@ void Pause(int milliseconds) {
 }
 
 void DebugOutput(const char* /*text*/) {}
+
+bool HasEnvironment(const char* variable, const char* value) {
+    const char* found = std::getenv(variable);
+    return found != nullptr && std::strcmp(found, value) == 0;
+}
+
+void WriteTrace(const char* line) {
+    std::fprintf(stderr, "%s\n", line);
+}
 
 uint32_t IssueIdentity(const void* /*object*/) {
     static std::atomic<uint32_t> issued{0};

@@ -2,26 +2,38 @@
 
 #include <windows.h>
 
+#include <cstring>
+#include <string>
+
 namespace rulecanvas::platform {
+namespace {
 
-struct Mutex::State {
-    HANDLE handle = CreateMutexA(nullptr, FALSE, nullptr);
-};
+HANDLE& HandleIn(unsigned char* native) {
+    return *reinterpret_cast<HANDLE*>(native);
+}
 
-Mutex::Mutex() : state(std::make_unique<State>()) {}
+} // namespace
 
-Mutex::~Mutex() {
-    if (state->handle != nullptr) {
-        CloseHandle(state->handle);
+ContainerMutex::ContainerMutex() {
+    HandleIn(native) = CreateMutexA(nullptr, FALSE, nullptr);
+}
+
+ContainerMutex::~ContainerMutex() {
+    if (HandleIn(native) != nullptr) {
+        CloseHandle(HandleIn(native));
     }
 }
 
-bool Mutex::Lock() {
-    return state->handle != nullptr && WaitForSingleObject(state->handle, INFINITE) != WAIT_FAILED;
+void ContainerMutex::Lock() {
+    if (HandleIn(native) != nullptr) {
+        WaitForSingleObject(HandleIn(native), INFINITE);
+    }
 }
 
-bool Mutex::Unlock() {
-    return state->handle == nullptr || ReleaseMutex(state->handle) != FALSE;
+void ContainerMutex::Unlock() {
+    if (HandleIn(native) != nullptr) {
+        ReleaseMutex(HandleIn(native));
+    }
 }
 
 void Pause(int milliseconds) {
@@ -30,6 +42,16 @@ void Pause(int milliseconds) {
 
 void DebugOutput(const char* text) {
     OutputDebugStringA(text);
+}
+
+bool HasEnvironment(const char* variable, const char* value) {
+    char found[64];
+    const DWORD length = GetEnvironmentVariableA(variable, found, sizeof(found));
+    return length > 0 && length < sizeof(found) && std::strcmp(found, value) == 0;
+}
+
+void WriteTrace(const char* line) {
+    OutputDebugStringA((std::string(line) + "\n").c_str());
 }
 
 uint32_t IssueIdentity(const void* object) {

@@ -16,7 +16,7 @@ void DrawBarbs(const PointF& tip, const ArrowBarbs& barbs, float width, const Co
 
 } // namespace
 
-void DrawAdjustBoxes(const Points& points, IContainerGraphics& surface, const ColorF& colour) {
+void DrawAdjustBoxes(PointSpan points, IContainerGraphics& surface, const ColorF& colour) {
     for (const PointF& point : points) {
         const PointF topLeft{point.x - AdjustBoxHalfSide, point.y - AdjustBoxHalfSide};
         const PointF bottomRight{point.x + AdjustBoxHalfSide, point.y + AdjustBoxHalfSide};
@@ -24,9 +24,9 @@ void DrawAdjustBoxes(const Points& points, IContainerGraphics& surface, const Co
     }
 }
 
-void DrawShowName(const ShapeLook& look, IContainerGraphics& surface, const ColorF& colour) {
-    surface.DrawTextAtPoints(look.caption.c_str(), look.points.data(), static_cast<int>(look.points.size()), colour,
-                             CaptionFormat, look.clientRect, 1);
+void DrawShowName(const ShapeLook& look, IContainerGraphics& surface) {
+    surface.DrawTextAtPoints(look.caption.c_str(), look.Path().data(), static_cast<int>(look.Path().size()),
+                             look.Colour(), CaptionFormat, look.figure.clientRect, 1);
 }
 
 void DrawCaptionAt(const PointF& at, const TextStyle& style, const std::string& caption, IContainerGraphics& surface) {
@@ -48,9 +48,13 @@ CrossStroke DrawDirectionMark(const PointF& a, const PointF& b, const ColorF& co
     return stroke;
 }
 
+void DrawSegment(const PointF& from, const PointF& to, float width, const ColorF& colour, IContainerGraphics& surface) {
+    surface.DrawLine(&from, &to, width, &colour, SolidPen);
+}
+
 void DrawOpenPath(const Points& path, float width, const ColorF& colour, IContainerGraphics& surface) {
     for (size_t i = 1; i < path.size(); ++i) {
-        surface.DrawLine(&path[i - 1], &path[i], width, &colour, SolidPen);
+        DrawSegment(path[i - 1], path[i], width, colour, surface);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shape/geometry.h"
+#include "geometry/arrows.h"
 #include "shape/shape_look.h"
 
 namespace rulecanvas {
@@ -11,10 +11,10 @@ constexpr int PatternedPen = 1;
 constexpr float FigureCaptionSize = 2.0F;
 
 /// A small box round each point.
-void DrawAdjustBoxes(const Points& points, IContainerGraphics& surface, const ColorF& colour);
+void DrawAdjustBoxes(PointSpan points, IContainerGraphics& surface, const ColorF& colour);
 
 /// The shape's caption, placed by the host from the shape's points.
-void DrawShowName(const ShapeLook& look, IContainerGraphics& surface, const ColorF& colour);
+void DrawShowName(const ShapeLook& look, IContainerGraphics& surface);
 
 /// The shape's caption with its top left at a point.
 void DrawCaptionAt(const PointF& at, const TextStyle& style, const std::string& caption, IContainerGraphics& surface);
@@ -29,7 +29,10 @@ void DrawDirectionArrow(const PointF& tail, const PointF& tip, const ColorF& col
 /// The stroke across the middle of a segment; its ends.
 CrossStroke DrawDirectionMark(const PointF& a, const PointF& b, const ColorF& colour, IContainerGraphics& surface);
 
-/// The segments between consecutive points, in the shape's colour.
+/// A solid line in the shape's colour.
+void DrawSegment(const PointF& from, const PointF& to, float width, const ColorF& colour, IContainerGraphics& surface);
+
+/// The segments between consecutive points.
 void DrawOpenPath(const Points& path, float width, const ColorF& colour, IContainerGraphics& surface);
 
 } // namespace rulecanvas

@@ -1,225 +1,235 @@
 #include "shape/gesture_shape.h"
 
-#include "shape/geometry.h"
-#include "shape/notifications.h"
+#include "geometry/hit_tests.h"
 
 #include <algorithm>
 
 namespace rulecanvas {
-CGestureShape::CGestureShape()
-    : moveListener(MouseListener::Bind<&CGestureShape::HearMouseMove>(this)),
-      upListener(MouseListener::Bind<&CGestureShape::HearButtonUp>(this)) {
-    SelectNotifyHook = decltype(SelectNotifyHook)::Bind<&CGestureShape::SendSelection>(this);
-    StateNotifyHook = decltype(StateNotifyHook)::Bind<&CGestureShape::SendState>(this);
-    MoveHook = decltype(MoveHook)::Bind<&CVideoAnalyseShape::MoveShape>(static_cast<CVideoAnalyseShape*>(this));
-    DrawHook = DrawListener::Bind<&CGestureShape::HearDraw>(this);
-}
 
-void CGestureShape::HandleLButtonDownEvent(const ContainerMouseEvent& event, int hitLevel) {
-    const PointF press = PositionOf(event);
-    switch (state) {
-    case Waiting:
-        StartDrawing(press);
-        break;
-    case Drawing:
-        ContinueDrawing(press);
-        break;
-    case Complete:
-        if (hitLevel == Outside) {
-            adjustBoxShown = false;
-        } else {
-            StartEditing(press, hitLevel);
+using platform::LockGuard;
+
+void CGestureShape::HandleLButtonDownEvent(const PointerEvent& event, int hitLevel) {
+    Take(&event.record, [&]() -> Outcome {
+        switch (state) {
+        case Waiting:
+            return StartDrawing(event);
+        case Drawing:
+            return ContinueDrawing(event);
+        case Complete:
+            if (hitLevel == Outside) {
+                adjustBoxShown = false; // a press beside the shape hides its handles
+                return {};
+            }
+            return StartEditing(event, hitLevel);
+        default:
+            return {};
         }
-        break;
-    default:
-        break;
-    }
-}
-
-void CGestureShape::ContinueDrawing(const PointF& /*press*/) {}
-
-void CGestureShape::ClearShape() {
-    Disturb();
-    ClearPoints();
-    EndGesture();
-}
-
-bool CGestureShape::RestartDrawing() {
-    state = Waiting; // first, because the host may draw the shape anew while it is cleared
-    ClearShape();
-    return true;
-}
-
-bool CGestureShape::MoveShape(float dx, float dy) {
-    return EditPoints([&](Points& moved) {
-        moved = Moved(moved, dx, dy);
-        return AcceptsMoved(moved);
     });
 }
 
-void CGestureShape::Dispose() {
-    Disturb();
-    UnregisterDraw();
-    const bool captured = InGesture() || (state == Drawing && PointCount() > 0);
-    Unsubscribe();
-    if (captured) {
-        Capture(false);
+void CGestureShape::OnMouseListened(MouseListenerKind kind, const PointerEvent& event) {
+    if (event.record.viewId != GetViewId()) {
+        return;
     }
+    if (kind == MouseListenerKind::ButtonUp) {
+        OnButtonUp(event);
+    } else if (event.HasView()) {
+        OnMouseMove(event);
+    }
+}
+
+void CGestureShape::OnMouseMove(const PointerEvent& event) {
+    Take(&event.record, [&]() -> Outcome {
+        switch (state) {
+        case Waiting:
+            return ResumeDrawing(event);
+        case Drawing:
+            return DrawTo(event);
+        case Moving:
+            return MoveTo(event);
+        case Adjusting:
+            return AdjustTo(event);
+        default:
+            return {};
+        }
+    });
+}
+
+void CGestureShape::OnButtonUp(const PointerEvent& event) {
+    Take(&event.record, [&]() -> Outcome {
+        switch (state) {
+        case Waiting:
+            return FinishWaiting(event);
+        case Drawing:
+            return EndDrawing(event);
+        case Moving:
+            return EndMove(event);
+        case Adjusting:
+            return EndAdjust(event);
+        default:
+            return {};
+        }
+    });
+}
+
+Outcome CGestureShape::ContinueDrawing(const PointerEvent& /*press*/) {
+    return {};
+}
+
+Outcome CGestureShape::ResumeDrawing(const PointerEvent& /*position*/) {
+    return {};
+}
+
+Outcome CGestureShape::FinishWaiting(const PointerEvent& /*release*/) {
+    return {};
+}
+
+Outcome CGestureShape::MoveTo(const PointerEvent& position) {
+    FollowMouse(position.ClampedFrom(figure.anchorPoint), position.view);
+    return {};
+}
+
+Outcome CGestureShape::EndMove(const PointerEvent& /*release*/) {
+    return Finish();
+}
+
+Outcome CGestureShape::AdjustTo(const PointerEvent& /*position*/) {
+    return {};
+}
+
+Outcome CGestureShape::EndAdjust(const PointerEvent& /*release*/) {
+    return Finish();
+}
+
+Outcome CGestureShape::Grab(ShapeState gesture) {
+    adjustBoxShown = true;
+    selected = true;
+    return {gesture, effects::Grab};
+}
+
+Outcome CGestureShape::StartOver() {
+    Forget();
+    return {Waiting, effects::LetGo};
+}
+
+void CGestureShape::ClearShape() {
+    Take(nullptr, [&]() -> Outcome {
+        Forget();
+        return {std::nullopt, effects::LetGo};
+    });
+}
+
+bool CGestureShape::RestartDrawing() {
+    Take(nullptr, [&] { return StartOver(); });
+    return true;
+}
+
+void CGestureShape::FinishByRightButton(int hitLevel) {
+    Take(nullptr, [&] { return hitLevel == Busy && state == Drawing ? Finish() : Outcome{}; });
+}
+
+void CGestureShape::DeleteByRightButton(int hitLevel) {
+    Take(nullptr, [&]() -> Outcome {
+        if (!enableRBtnDelete || (hitLevel != OnOutline && hitLevel != Inside)) {
+            return {};
+        }
+        Forget();
+        return {Deleted, effects::Remove};
+    });
+}
+
+bool CGestureShape::MoveShape(float dx, float dy) {
+    const ClientRect view = ViewRect();
+    bool moved = false;
+    {
+        LockGuard guard(lock);
+        moved = MovePoints(dx, dy, view);
+    }
+    MarkClaimStale();
+    return moved;
+}
+
+bool CGestureShape::BuildDragPoints(int index, const PointF& current, Points& out) {
+    const ClientRect view = ViewRect();
+    LockGuard guard(lock);
+    Points before = figure.points;
+    const bool dragged = DragPoint(index, current, view);
+    out = figure.points;
+    figure.points = std::move(before);
+    return dragged;
+}
+
+bool CGestureShape::DragPoint(int /*index*/, const PointF& /*to*/, const ClientRect& /*view*/) {
+    return false;
+}
+
+bool CGestureShape::FollowMouse(const PointF& position, const ClientRect& view) {
+    if (!MovePoints(position.x - figure.anchorPoint.x, position.y - figure.anchorPoint.y, view)) {
+        return false;
+    }
+    figure.anchorPoint = position;
+    return true;
+}
+
+bool CGestureShape::MovePoints(float dx, float dy, const ClientRect& view) {
+    const auto stays = [&](const PointF& point) { return AcceptsPoint(Shifted(point, dx, dy), view); };
+    if (!std::all_of(figure.points.begin(), figure.points.end(), stays)) {
+        return false;
+    }
+    Shift(figure.points, dx, dy);
+    return true;
+}
+
+void CGestureShape::Forget() {
+    figure.points.clear();
+}
+
+Claim CGestureShape::GetClaim() const {
+    LockGuard guard(lock);
+    switch (state) {
+    case Deleted:
+        return Claim::Nowhere();
+    case Complete:
+        return CompleteClaim();
+    default:
+        return BusyClaim();
+    }
+}
+
+Claim CGestureShape::BusyClaim() const {
+    return Claim::Everywhere();
+}
+
+Claim CGestureShape::CompleteClaim() const {
+    return Claim::Around(figure.points, HitReach, true);
 }
 
 bool CGestureShape::IsShownIn(ViewID view) const {
     return visible && view == GetViewId() && state != Deleted;
 }
 
-void CGestureShape::PrepareToDraw() {}
-
-bool CGestureShape::HearDraw(ViewID view, IContainerGraphics* surface) {
-    if (IsShownIn(view)) {
-        PrepareToDraw();
-        Draw(CopyLook(), *surface);
-    }
+bool CGestureShape::FitToPaint(const PaintPass& /*pass*/) {
     return true;
 }
 
-void CGestureShape::BeginConfiguration(const char* shapeName) {
-    Disturb();
-    ClearPoints();
-    NotifySelection();
-    name = shapeName == nullptr ? "NoName" : shapeName;
-    state = Waiting;
-    selected = true;
-}
-
-void CGestureShape::BeginGesture(ShapeState gestureState) {
-    Disturb();
-    Subscribe(); // first: a host may send events while it takes the capture
-    state = gestureState;
-    Capture(true);
-}
-
-void CGestureShape::Grab(ShapeState gestureState) {
-    adjustBoxShown = true;
-    selected = true;
-    state = gestureState; // first: a press that the host sends from inside must not grab once more
-    if (NotifySelection()) {
-        BeginGesture(gestureState);
-    }
-}
-
-bool CGestureShape::BecomeComplete() {
-    Disturb();
-    const int previous = state.exchange(Complete); // first: what the host sends from inside meets a complete shape
-    return NotifyState(previous, Complete);
-}
-
-bool CGestureShape::FinishGesture() {
-    return BecomeComplete() && EndGesture();
-}
-
-bool CGestureShape::EndGesture() {
-    Disturb(); // a step that waits for the host further up must not end the gesture again
-    Unsubscribe();
-    return Capture(false);
-}
-
-bool CGestureShape::NotifySelection() {
-    return Undisturbed([&] { SelectNotifyHook(1, 1); });
-}
-
-bool CGestureShape::NotifyState(int previousState, int newState) {
-    return Undisturbed([&] { StateNotifyHook(previousState, newState); });
-}
-
-bool CGestureShape::Capture(bool take) {
-    return Undisturbed([&] { RequestCapture(take); });
-}
-
-void CGestureShape::Subscribe() {
-    IShapeContainer* owner = GetContainer();
-    platform::LockGuard guard(lock);
-    if (owner == nullptr || subscribed) {
+void CGestureShape::OnDraw(PaintPass& pass) {
+    if (!IsShownIn(pass.view)) {
         return;
     }
-    subscribed = true;
-    try {
-        owner->RegisterWinMouseEvent(MouseListenerKind::ButtonUp, weak_from_this(), upListener);
-        owner->RegisterWinMouseEvent(MouseListenerKind::MouseMoved, weak_from_this(), moveListener);
-    } catch (...) { // without memory: a gesture is heard whole or not at all
-        Unsubscribe();
-        throw;
+    if (!CopyFitted(pass)) {
+        pass.AskPaintedRect();
+        CopyFitted(pass);
     }
+    Draw(pass.look, pass);
 }
 
-void CGestureShape::Unsubscribe() {
-    IShapeContainer* owner = GetContainer();
-    platform::LockGuard guard(lock);
-    if (owner != nullptr && subscribed) {
-        owner->unRegisterWinMouseEvent(MouseListenerKind::ButtonUp, upListener);
-        owner->unRegisterWinMouseEvent(MouseListenerKind::MouseMoved, moveListener);
-        subscribed = false;
-    }
-}
-
-void CGestureShape::FinishByRightButton(int hitLevel) {
-    if (hitLevel == Busy && state == Drawing) {
-        FinishGesture();
-    }
-}
-
-void CGestureShape::DeleteByRightButton(int hitLevel) {
-    if (!enableRBtnDelete || (hitLevel != OnOutline && hitLevel != Inside)) {
-        return;
-    }
-    const int previous = state.exchange(Deleted);
-    ClearShape();
-    if (state == Deleted) { // else the host began it anew
-        StateNotifyHook(previous, Deleted);
-    }
-}
-
-PointF CGestureShape::ClampToView(const PointF& anchor, const PointF& position) const {
-    return ClampRelative(anchor, position, ViewRect());
-}
-
-bool CGestureShape::HasView() const {
-    return SizeOf(ViewRect()).Known();
-}
-
-bool CGestureShape::AcceptsMoved(const Points& moved) const {
-    return AcceptsPoints(moved);
-}
-
-bool CGestureShape::AcceptsPoints(const Points& candidates) const {
-    return std::all_of(candidates.begin(), candidates.end(), [&](const PointF& point) { return AcceptsPoint(point); });
-}
-
-bool CGestureShape::FollowMouse(const PointF& position) {
-    if (!MoveHook(position.x - anchorPoint.x, position.y - anchorPoint.y)) {
+bool CGestureShape::CopyFitted(PaintPass& pass) {
+    LockGuard guard(lock);
+    if (!FitToPaint(pass)) {
         return false;
     }
-    SetAnchorPoint(position);
+    CopyLook(pass.look);
     return true;
-}
-
-bool CGestureShape::HearMouseMove(const ContainerMouseEvent& event) {
-    return event.viewId == GetViewId() && HasView() && OnMouseMove(PositionOf(event));
-}
-
-bool CGestureShape::HearButtonUp(const ContainerMouseEvent& event) {
-    return event.viewId == GetViewId() && OnButtonUp(PositionOf(event), event);
-}
-
-void CGestureShape::SendSelection(int select, int notify) {
-    IShapeContainer* owner = GetContainer();
-    if (owner != nullptr && select == 1 && notify == 1) {
-        owner->Notify(SelectionEvent(*this));
-    }
-}
-
-void CGestureShape::SendState(int previousState, int newState) {
-    if (IShapeContainer* owner = GetContainer()) {
-        owner->Notify(StateEvent(*this, previousState, newState));
-    }
 }
 
 } // namespace rulecanvas

@@ -1,5 +1,10 @@
 #pragma once
 
+#include "shape/claim.h"
+#include "shape/configuration.h"
+#include "shape/json_text.h"
+#include "shape/outcome.h"
+#include "shape/paint_pass.h"
 #include "shape/shape.h"
 
 namespace rulecanvas {
@@ -7,100 +12,153 @@ namespace rulecanvas {
 /// A shape that is drawn and edited with the mouse.
 ///
 /// A gesture begins with a press: the shape enters a state, listens to moves and to the button's release, and takes the
-/// mouse capture. It ends with one of EndGesture, ClearShape or Retire; crosses and ovals that were drawn only stop
-/// listening. The host hears of it through its callbacks, and may answer any of them by clearing, restarting or deleting
-/// the shape. A shape therefore takes its new state before it speaks, and the steps that the host can overtake return
-/// false.
+/// mouse capture. It is fed by moves, and ends with a release or when the shape is cleared, drawn anew or retired.
+///
+/// Every event is one step: under one hold of the lock a shape decides on values what the step does and that is
+/// committed; then the effects are spoken in their order. The host may answer any of them by changing the shape: what
+/// the step has left to say is then dropped, because the shape is no longer where the step left it.
 class CGestureShape : public CVideoAnalyseShape {
   public:
-    CGestureShape();
-
-    /// Leads a press to StartDrawing, ContinueDrawing or StartEditing; a press beside the shape hides its handles.
-    void HandleLButtonDownEvent(const ContainerMouseEvent& event, int hitLevel) override;
+    void HandleLButtonDownEvent(const PointerEvent& event, int hitLevel) override;
+    Refused SetVideoAnalyseShapeData(const Configuration& configuration) override;
+    bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
     void ClearShape() override;
     bool RestartDrawing() override;
     /// All points, or none when one of them would leave the view.
     bool MoveShape(float dx, float dy) override;
-    bool AwaitsPaint() const override { return true; }
+    /// The points with one of them dragged to `current`.
+    bool BuildDragPoints(int index, const PointF& current, Points& out) override;
+    Claim GetClaim() const override;
+    void OnMouseListened(MouseListenerKind kind, const PointerEvent& event) override;
+    void OnDraw(PaintPass& pass) override;
 
   protected:
-    virtual void StartDrawing(const PointF& press) = 0;
-    virtual void ContinueDrawing(const PointF& press);
-    virtual void StartEditing(const PointF& press, int hitLevel) = 0;
-    /// The answers of the two listeners.
-    virtual bool OnMouseMove(const PointF& position) = 0;
-    virtual bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) = 0;
+    // The steps of a gesture, called with the lock held. They change the figure and speak to no one.
 
-    void Dispose() override;
+    /// The first press.
+    virtual Outcome StartDrawing(const PointerEvent& press) = 0;
+    /// A further press.
+    virtual Outcome ContinueDrawing(const PointerEvent& press);
+    virtual Outcome DrawTo(const PointerEvent& position) = 0;
+    virtual Outcome EndDrawing(const PointerEvent& release) = 0;
+    /// A move or release that a shape which waits to be drawn still listens to.
+    virtual Outcome ResumeDrawing(const PointerEvent& position);
+    virtual Outcome FinishWaiting(const PointerEvent& release);
+    /// A press that grabs the finished figure, or not.
+    virtual Outcome StartEditing(const PointerEvent& press, int hitLevel) = 0;
+    virtual Outcome MoveTo(const PointerEvent& position);
+    virtual Outcome EndMove(const PointerEvent& release);
+    virtual Outcome AdjustTo(const PointerEvent& position);
+    virtual Outcome EndAdjust(const PointerEvent& release);
+
+    // What the steps lead to.
+
+    Outcome Begin(ShapeState gesture) const { return {gesture, effects::Begin}; }
+    /// Selects the finished shape and shows its handles.
+    Outcome Grab(ShapeState gesture);
+    Outcome Finish() const { return {Complete, effects::Finish}; }
+    /// The figure goes, and the shape waits to be drawn anew.
+    Outcome StartOver();
+
+    /// Moves the whole figure after the mouse and takes the mouse over as the new anchor; a refused step changes
+    /// nothing.
+    bool FollowMouse(const PointF& position, const ClientRect& view);
+    /// Moves all points or none.
+    virtual bool MovePoints(float dx, float dy, const ClientRect& view);
+    /// Drags one point, as far as the figure allows that. False: nothing changed.
+    virtual bool DragPoint(int index, const PointF& to, const ClientRect& view);
+    /// What a cleared shape forgets.
+    virtual void Forget();
+
+    // A configuration, read and written with the lock held.
+
+    virtual bool TakesStyle() const { return true; }
+    /// Takes over a mode word, or the option's other meaning.
+    virtual void ReadWord(const char* option);
+    virtual std::string GeometryKey() const { return name; }
+    /// Reads the figure and enters the state that it has.
+    virtual Refused Load(Loading& loading) = 0;
+    /// Null when there is nothing to write.
+    virtual Json::Value WriteGeometry(const Points& points, const ViewSize& view) const = 0;
+    virtual CopyRule RuleOfCopying() const = 0;
+    /// Whether what is written depends on the view's size.
+    virtual bool WritesPlaces() const { return true; }
+
+    // A paint.
 
     /// Whether a paint of the view shows the shape.
     virtual bool IsShownIn(ViewID view) const;
-    /// What must happen to the points before a paint copies them.
-    virtual void PrepareToDraw();
-    virtual void Draw(const ShapeLook& look, IContainerGraphics& surface) = 0;
+    /// With the lock held, before the figure is copied. False: it needs the painted view's rectangle, which the pass has
+    /// not asked for yet.
+    virtual bool FitToPaint(const PaintPass& pass);
+    virtual void Draw(const ShapeLook& look, PaintPass& pass) = 0;
 
-    /// The part of a new configuration that all shapes share: no points, the selection notification, and only then the
-    /// name, the state and the selection.
-    void BeginConfiguration(const char* shapeName);
+    // Claims, with the lock held.
 
-    /// Whether a gesture was begun and not ended yet.
-    bool InGesture() const { return subscribed; }
-    void BeginGesture(ShapeState gestureState);
-    /// Begins the drag of a finished shape: handles, selection and its notification, then the gesture.
-    void Grab(ShapeState gestureState);
-    /// Makes the shape complete and reports it.
-    bool BecomeComplete();
-    /// Completes the shape and ends the gesture.
-    bool FinishGesture();
-    /// Stops listening and releases the capture.
-    bool EndGesture();
+    virtual Claim BusyClaim() const;
+    /// Of the finished figure.
+    virtual Claim CompleteClaim() const;
 
-    /// Stops every step that waits for an answer of the host: the shape is no longer where that step left it.
-    void Disturb() { ++revision; }
-    /// Runs a callback into the host. False when the host answered by changing the shape.
-    template <class Call>
-    bool Undisturbed(Call call) {
-        const unsigned before = revision;
-        call();
-        return before == revision && !IsRetired();
+    void Dispose() override;
+    virtual void TellState(int previousState, int newState);
+
+    /// Runs a step: decides, commits, speaks.
+    template <class Step>
+    void Take(const ContainerMouseEvent* cause, Step step) {
+        Committed committed;
+        {
+            platform::LockGuard guard(lock);
+            if (IsRetired()) {
+                return;
+            }
+            committed.previous = state;
+            committed.outcome = step();
+            Commit(committed);
+        }
+        MarkClaimStale();
+        Speak(committed, cause);
     }
-    bool NotifySelection();
-    bool NotifyState(int previousState, int newState);
-    bool Capture(bool take);
-    void SendState(int previousState, int newState);
-    void Subscribe();
-    void Unsubscribe();
+
+    /// The one place where a shape changes its state; with the lock held.
+    void Enter(ShapeState next);
+    bool IsListening() const { return listening; }
 
     /// A right press while the shape is drawn finishes it.
     void FinishByRightButton(int hitLevel);
     /// A right press on a shape that allows it takes the shape to state 0, clears it and reports that.
     void DeleteByRightButton(int hitLevel);
 
-    /// The position in whole pixels, kept inside the view as seen from `anchor`.
-    PointF ClampToView(const PointF& anchor, const PointF& position) const;
-
-    /// False while the view has no size, as that of a minimised window: nothing could be placed in it.
-    bool HasView() const;
-
-    /// Whether all points may be used in the shape's view.
-    bool AcceptsPoints(const Points& candidates) const;
-    /// Whether the shape may be moved to these points.
-    virtual bool AcceptsMoved(const Points& moved) const;
-
-    /// Moves the whole shape after the mouse and takes the mouse over as the new anchor; a refused step changes
-    /// nothing.
-    bool FollowMouse(const PointF& position);
+    bool enableRBtnDelete = false;
 
   private:
-    bool HearDraw(ViewID view, IContainerGraphics* surface);
-    bool HearMouseMove(const ContainerMouseEvent& event);
-    bool HearButtonUp(const ContainerMouseEvent& event);
-    void SendSelection(int select, int notify);
+    struct Committed {
+        Outcome outcome;
+        int previous = Deleted;
+        unsigned life = 0;
+    };
 
-    MouseListener moveListener;
-    MouseListener upListener;
-    std::atomic<bool> subscribed{false};
-    std::atomic<unsigned> revision{0};
+    void Commit(Committed& committed);
+    void Speak(const Committed& committed, const ContainerMouseEvent* cause);
+    void SpeakOne(Effect effect, const Committed& committed, const ContainerMouseEvent* cause);
+    void GiveUp(const Committed& committed) noexcept;
+    bool IsStill(const Committed& committed) const { return life == committed.life && !IsRetired(); }
+    void TellSelection();
+    void TellCreation(const ContainerMouseEvent* cause);
+    void RequestCapture(bool take);
+    void Listen();
+    void StopListening();
+
+    bool CopyFitted(PaintPass& pass);
+    void OnMouseMove(const PointerEvent& event);
+    void OnButtonUp(const PointerEvent& event);
+
+    Refused Configure(const Configuration& configuration);
+    void BeginConfiguration(const char* shapeName);
+    Refused LoadText(const Configuration& configuration);
+
+    std::atomic<bool> listening{false};
+    /// Counts what happened to the shape's state and figure beyond the steps of a drag.
+    std::atomic<unsigned> life{0};
 };
 
 } // namespace rulecanvas

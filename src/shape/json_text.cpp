@@ -6,55 +6,66 @@
 #include <json/writer.h>
 
 #include <cstring>
+#include <sstream>
 
 namespace rulecanvas {
 namespace {
 
 constexpr int DeepestNesting = 100;
 
-/// Reading a number switches the locale of the whole process for a moment: one thread at a time.
-platform::Mutex& ParserMutex() {
-    static platform::Mutex mutex;
-    return mutex;
-}
-
-Json::CharReaderBuilder MakeReaderBuilder() {
+std::unique_ptr<Json::CharReader> MakeReader() {
     Json::CharReaderBuilder builder;
     builder["collectComments"] = false;
     builder["allowTrailingCommas"] = false;
     builder["skipBom"] = false;
     builder["stackLimit"] = DeepestNesting;
-    return builder;
+    return std::unique_ptr<Json::CharReader>(builder.newCharReader());
 }
 
-Json::StreamWriterBuilder MakeWriterBuilder() {
+/// One reader for all, one thread at a time: reading a number switches the locale of the whole process for a moment.
+class Parser {
+  public:
+    bool Parse(const char* text, Json::Value& root, std::string* why) {
+        platform::LockGuard guard(mutex);
+        return reader->parse(text, text + std::strlen(text), &root, why);
+    }
+
+  private:
+    platform::ContainerMutex mutex;
+    const std::unique_ptr<Json::CharReader> reader = MakeReader();
+};
+
+std::unique_ptr<Json::StreamWriter> MakeWriter() {
     Json::StreamWriterBuilder builder;
     builder["indentation"] = "";
     builder["emitUTF8"] = true;
-    return builder;
+    return std::unique_ptr<Json::StreamWriter>(builder.newStreamWriter());
 }
 
 } // namespace
 
-bool ParseJson(const char* text, Json::Value& root) {
-    static const Json::CharReaderBuilder builder = MakeReaderBuilder();
-    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    platform::LockGuard guard(ParserMutex());
+bool ParseJson(const char* text, Json::Value& root, std::string* why) {
+    static Parser parser;
     Json::Value parsed;
     try {
-        if (!reader->parse(text, text + std::strlen(text), &parsed, nullptr)) {
+        if (!parser.Parse(text, parsed, why)) {
             return false;
         }
-    } catch (const Json::Exception&) {
-        return false; // nested too deeply
+    } catch (const Json::Exception& nestedTooDeeply) {
+        if (why != nullptr) {
+            *why = nestedTooDeeply.what();
+        }
+        return false;
     }
     root.swap(parsed);
     return true;
 }
 
 std::string WriteJson(const Json::Value& value) {
-    static const Json::StreamWriterBuilder builder = MakeWriterBuilder();
-    return Json::writeString(builder, value) + "\n";
+    std::ostringstream out;
+    MakeWriter()->write(value, &out);
+    out << '\n';
+    return out.str();
 }
 
 const Json::Value& MemberOf(const Json::Value& root, const std::string& key) {
@@ -69,24 +80,19 @@ bool IsPlainInteger(const Json::Value& value) {
     return value.type() == Json::intValue && value.isInt();
 }
 
-bool CopyText(const std::string& text, char* buffer, int size) {
-    if (buffer == nullptr || size < 0 || static_cast<size_t>(size) < text.size() + 1) {
+bool CopyText(const std::string& text, CopyRule rule, char* buffer, int size) {
+    const size_t length = rule == CopyRule::Line ? text.rfind('\n') : text.size();
+    const size_t room = size < 0 ? 0 : static_cast<size_t>(size);
+    const bool isTerminated = room > length;
+    const bool fits = isTerminated || (rule == CopyRule::ZeroUncounted && room == length);
+    if (buffer == nullptr || !fits) {
         return false;
     }
-    buffer[text.copy(buffer, text.size())] = '\0';
-    return true;
-}
-
-bool CopyTextUncounted(const std::string& text, char* buffer, int size) {
-    if (buffer != nullptr && size >= 0 && static_cast<size_t>(size) == text.size()) {
-        text.copy(buffer, text.size());
-        return true;
+    text.copy(buffer, length);
+    if (isTerminated) {
+        buffer[length] = '\0';
     }
-    return CopyText(text, buffer, size);
-}
-
-bool CopyLine(const std::string& text, char* buffer, int size) {
-    return CopyText(text.substr(0, text.rfind('\n')), buffer, size);
+    return true;
 }
 
 } // namespace rulecanvas

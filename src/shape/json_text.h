@@ -6,9 +6,9 @@
 
 namespace rulecanvas {
 
-/// Parses one JSON document; what follows the root is ignored. False, with `root` unchanged, for a text that is not
-/// JSON or is nested beyond reason.
-bool ParseJson(const char* text, Json::Value& root);
+/// Parses one JSON document; what follows the root is ignored. False, with `root` unchanged and `why` filled if it is
+/// given, for a text that is not JSON or is nested beyond reason.
+bool ParseJson(const char* text, Json::Value& root, std::string* why = nullptr);
 
 /// One compact line with keys in ascending order and a line feed at the end; bytes from 0x80 up stay as they are.
 std::string WriteJson(const Json::Value& value);
@@ -21,14 +21,16 @@ bool IsArrayOf(const Json::Value& value, unsigned count);
 /// Numbers with a fraction or an exponent are not integers here, even when their value is whole.
 bool IsPlainInteger(const Json::Value& value);
 
-/// Copies the text with its terminating zero, when all of it fits.
-bool CopyText(const std::string& text, char* buffer, int size);
+/// How a text goes into a buffer of the host. Each only when all of it fits; else the buffer is left untouched.
+enum class CopyRule {
+    /// With its terminating zero, for which there must be room.
+    Terminated,
+    /// The same, but a buffer of exactly the text's length takes it without a terminating zero.
+    ZeroUncounted,
+    /// Without its final line feed, and with its terminating zero.
+    Line,
+};
 
-/// Copies the text when it fits, the terminating zero not counted: a buffer of exactly the text's length goes without
-/// one.
-bool CopyTextUncounted(const std::string& text, char* buffer, int size);
-
-/// Copies the text without its final line feed, with its terminating zero, when all of it fits.
-bool CopyLine(const std::string& text, char* buffer, int size);
+bool CopyText(const std::string& text, CopyRule rule, char* buffer, int size);
 
 } // namespace rulecanvas

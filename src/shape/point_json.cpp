@@ -1,10 +1,5 @@
 #include "shape/point_json.h"
 
-#include "shape/geometry.h"
-#include "shape/json_text.h"
-
-#include <algorithm>
-
 namespace rulecanvas {
 
 PointF ReadPoint(const Json::Value& pair, const ViewSize& view) {
@@ -23,18 +18,16 @@ Json::Value WritePoint(const PointF& point, const ViewSize& view) {
     return pair;
 }
 
-std::string PointsText(const std::string& key, const Points& points, const ViewSize& view) {
-    Json::Value root(Json::objectValue);
-    Json::Value& array = root[key] = Json::Value(Json::arrayValue);
+Json::Value WritePoints(const Points& points, const ViewSize& view) {
+    Json::Value array(Json::arrayValue);
     for (const PointF& point : points) {
         array.append(WritePoint(point, view));
     }
-    return WriteJson(root);
+    return array;
 }
 
-Points Truncated(Points points) {
-    std::transform(points.begin(), points.end(), points.begin(), WholePixels);
-    return points;
+Json::Value WriteDiagonal(const Points& corners, const ViewSize& view) {
+    return WritePoints(Truncated({corners[0], corners[2]}), view);
 }
 
 } // namespace rulecanvas

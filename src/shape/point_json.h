@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shape/grid.h"
+#include "geometry/grid.h"
 
 #include <json/value.h>
 
@@ -15,10 +15,9 @@ PointF ReadRealPoint(const Json::Value& pair, const ViewSize& view);
 /// The [x, y] pair of whole grid numbers of a point.
 Json::Value WritePoint(const PointF& point, const ViewSize& view);
 
-/// One line of JSON: an object with one member, the array of the points.
-std::string PointsText(const std::string& key, const Points& points, const ViewSize& view);
+Json::Value WritePoints(const Points& points, const ViewSize& view);
 
-/// The points in whole pixels, as some shapes round before they write.
-Points Truncated(Points points);
+/// The first and the third of four corners, in whole pixels.
+Json::Value WriteDiagonal(const Points& corners, const ViewSize& view);
 
 } // namespace rulecanvas

@@ -1,18 +1,14 @@
 #include "shape/shape.h"
 
-#include "shape/geometry.h"
 #include "shape/text.h"
-
-#include <cstring>
 
 namespace rulecanvas {
 
 using platform::LockGuard;
 
-CVideoAnalyseShape::CVideoAnalyseShape() : shapeId(platform::IssueIdentity(this)) {
-    std::strncpy(textStyle.face, "MS Sans Serif", sizeof(textStyle.face) - 1);
-    AdjustPointCoordinateHook = Delegate<bool(ViewID, const PointF&)>::Bind<&CVideoAnalyseShape::IsInView>(this);
-}
+CVideoAnalyseShape::CVideoAnalyseShape() : shapeId(platform::IssueIdentity(this)) {}
+
+CVideoAnalyseShape::~CVideoAnalyseShape() = default;
 
 CVideoAnalyseShape* CVideoAnalyseShape::HitTestRButtonDown(const ContainerMouseEvent& /*event*/, int& /*hitLevel*/) {
     return nullptr;
@@ -23,7 +19,7 @@ CVideoAnalyseShape* CVideoAnalyseShape::HitTestAltRButtonEvent(const ContainerMo
     return nullptr;
 }
 
-void CVideoAnalyseShape::HandleLButtonDownEvent(const ContainerMouseEvent& /*event*/, int /*hitLevel*/) {}
+void CVideoAnalyseShape::HandleLButtonDownEvent(const PointerEvent& /*event*/, int /*hitLevel*/) {}
 
 void CVideoAnalyseShape::HandleRButtonEvent(const ContainerMouseEvent& /*event*/, int /*hitLevel*/) {}
 
@@ -32,11 +28,8 @@ void CVideoAnalyseShape::OnReservedEvent(uint32_t /*first*/, uint32_t /*second*/
 void CVideoAnalyseShape::HandleContainerEvent(const ContainerMouseEvent& /*event*/, int /*hitLevel*/) {}
 
 void CVideoAnalyseShape::GetShapePoints(Points& out) const {
-    out = CopyPoints();
-}
-
-bool CVideoAnalyseShape::GetVideoAnalyseShapeConfigData(char* /*buffer*/, int /*size*/) {
-    return false;
+    LockGuard guard(lock);
+    out = figure.points;
 }
 
 uint32_t CVideoAnalyseShape::AddSubShape(uint32_t /*first*/, uint32_t /*second*/, uint32_t /*third*/) {
@@ -51,6 +44,7 @@ bool CVideoAnalyseShape::SelectShape(bool select, int /*mode*/) {
 void CVideoAnalyseShape::SetSelectedState(bool select) {
     selected = select;
     adjustBoxShown = select;
+    MarkClaimStale();
 }
 
 void CVideoAnalyseShape::RemoveSubShape(ShapeID /*id*/) {}
@@ -60,8 +54,9 @@ CVideoAnalyseShape* CVideoAnalyseShape::FindSubShape(ShapeID /*id*/) {
 }
 
 int CVideoAnalyseShape::SetShapeDirection(ShapeID /*id*/, int newDirection) {
-    hostDirection = newDirection;
-    direction = newDirection;
+    LockGuard guard(lock);
+    style.hostDirection = newDirection;
+    style.direction = newDirection;
     return 1;
 }
 
@@ -82,7 +77,8 @@ bool CVideoAnalyseShape::BuildDragPoints(int /*index*/, const PointF& /*current*
 }
 
 bool CVideoAnalyseShape::GetPressPoint(PointF& out) const {
-    out = anchorPoint;
+    LockGuard guard(lock);
+    out = figure.anchorPoint;
     return true;
 }
 
@@ -95,39 +91,17 @@ void CVideoAnalyseShape::SetSubShapeShowName(ShapeID id, const char* text) {
     }
 }
 
-void CVideoAnalyseShape::FitToClientRect() {
-    IShapeContainer* owner = container;
-    if (owner == nullptr || !FittedSize().Known()) {
-        return;
+void CVideoAnalyseShape::FitToClientRect(const ClientRect& viewZero) {
+    {
+        LockGuard guard(lock);
+        figure.FitTo(viewZero);
     }
-    const ClientRect rect = owner->GetClientRect(0);
-    if (rect.right <= 0 || rect.bottom <= 0 || !SizeOf(rect).Known()) {
-        return; // a minimised window must not collapse its figures
-    }
-    LockGuard guard(lock);
-    if (clientWidth <= 0 || clientHeight <= 0) {
-        return; // another thread asked while the view had no size
-    }
-    const double scaleX = rect.right * 1.0 / clientWidth;
-    const double scaleY = rect.bottom * 1.0 / clientHeight;
-    if (scaleX != 1.0 || scaleY != 1.0) {
-        for (PointF& point : points) {
-            point.x = static_cast<float>(point.x * scaleX);
-            point.y = static_cast<float>(point.y * scaleY);
-        }
-        ++pointsVersion;
-    }
-    clientWidth = SizeOf(rect).width;
-    clientHeight = SizeOf(rect).height;
-    clientRect = rect;
+    MarkClaimStale();
 }
 
 int CVideoAnalyseShape::GetShapeDirection() const {
-    return direction;
-}
-
-void CVideoAnalyseShape::SetContainer(IShapeContainer* owner) {
-    container = owner;
+    LockGuard guard(lock);
+    return style.direction;
 }
 
 void CVideoAnalyseShape::SetEventName(const char* text) {
@@ -141,112 +115,55 @@ void CVideoAnalyseShape::SetShowNameText(const char* text) {
     showNameText = std::move(copy);
 }
 
-bool CVideoAnalyseShape::EnableShape(bool enable) {
+void CVideoAnalyseShape::EnableShape(bool enable) {
     if (!enable) {
         adjustBoxShown = false;
     }
     selected = enable;
     enabled = enable;
-    return true;
+    MarkClaimStale();
 }
 
-bool CVideoAnalyseShape::SetShapeColor(int red, int green, int blue, bool selectedColour) {
+void CVideoAnalyseShape::SetShapeColor(int red, int green, int blue, bool selectedColour) {
     LockGuard guard(lock);
-    (selectedColour ? selColor : unSelColor) =
+    (selectedColour ? style.selColor : style.unSelColor) =
         OpaqueColour(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue));
-    return true;
 }
 
 void CVideoAnalyseShape::SetMaxPtNum(int maximum, int minimum) {
     constexpr int leastMinimum = 3;
-    maxPtNum = maximum;
-    minPtNum = minimum <= leastMinimum ? leastMinimum : minimum;
+    {
+        LockGuard guard(lock);
+        maxPtNum = maximum;
+        minPtNum = minimum <= leastMinimum ? leastMinimum : minimum;
+    }
+    MarkClaimStale();
 }
 
-void CVideoAnalyseShape::SetViewId(ViewID view) {
+void CVideoAnalyseShape::SetViewId(ViewID view, const ClientRect& clientRect) {
     viewId = view;
-    AskViewSize();
-}
-
-void CVideoAnalyseShape::AskViewSize() {
-    const ViewSize size = SizeOf(ViewRect());
     LockGuard guard(lock);
-    clientWidth = size.width;
-    clientHeight = size.height;
-    clientRect.right = size.width;
-    clientRect.bottom = size.height;
+    figure.Adopt(clientRect);
 }
 
-void CVideoAnalyseShape::Retire() {
-    Dispose();
+OwnerHooks& CVideoAnalyseShape::Hooks() {
+    if (hooks == nullptr) {
+        hooks = std::make_unique<OwnerHooks>();
+    }
+    return *hooks;
+}
+
+void CVideoAnalyseShape::Retire() noexcept {
+    try {
+        Dispose();
+    } catch (...) { // of the host, which hears of the end: the shape ends all the same
+    }
     container = nullptr;
 }
 
-void CVideoAnalyseShape::ClearPoints() {
-    ReplacePoints({});
-}
-
-Points CVideoAnalyseShape::CopyPoints() const {
+void CVideoAnalyseShape::FreeFigure() noexcept {
     LockGuard guard(lock);
-    return points;
-}
-
-FittedPoints CVideoAnalyseShape::CopyFitted() {
-    KnownViewSize();
-    LockGuard guard(lock);
-    return FittedPoints{points, ViewSize{clientWidth, clientHeight}};
-}
-
-void CVideoAnalyseShape::AppendPointsTo(Points& out) const {
-    LockGuard guard(lock);
-    out.insert(out.end(), points.begin(), points.end());
-}
-
-size_t CVideoAnalyseShape::PointCount() const {
-    LockGuard guard(lock);
-    return points.size();
-}
-
-void CVideoAnalyseShape::ReplacePoints(Points newPoints) {
-    LockGuard guard(lock);
-    points = std::move(newPoints);
-    ++pointsVersion;
-}
-
-void CVideoAnalyseShape::AppendPoint(const PointF& point) {
-    LockGuard guard(lock);
-    points.push_back(point);
-    ++pointsVersion;
-}
-
-ShapeLook CVideoAnalyseShape::CopyLook() const {
-    ShapeLook look;
-    look.state = state;
-    look.selected = selected;
-    look.handles = adjustBoxShown;
-    LockGuard guard(lock);
-    look.selThickness = lineThickness;
-    look.unSelThickness = unSelLineThickness;
-    look.points = points;
-    look.selColour = selColor;
-    look.unSelColour = unSelColor;
-    look.textStyle = textStyle;
-    look.caption = showNameText;
-    look.lastPoint = lastPoint;
-    look.anchorPoint = anchorPoint;
-    look.size = ViewSize{clientWidth, clientHeight};
-    look.clientRect = clientRect;
-    return look;
-}
-
-void CVideoAnalyseShape::SetLastPoint(const PointF& point) {
-    LockGuard guard(lock);
-    lastPoint = point;
-}
-
-void CVideoAnalyseShape::SetAnchorPoint(const PointF& point) {
-    LockGuard guard(lock);
-    anchorPoint = point;
+    Points().swap(figure.points);
 }
 
 ClientRect CVideoAnalyseShape::ViewRect() const {
@@ -254,46 +171,66 @@ ClientRect CVideoAnalyseShape::ViewRect() const {
     return owner == nullptr ? ClientRect{} : owner->GetClientRect(viewId);
 }
 
-ViewSize CVideoAnalyseShape::KnownViewSize() {
-    if (!FittedSize().Known()) {
-        AskViewSize();
+void CVideoAnalyseShape::LearnViewSize() {
+    {
+        LockGuard guard(lock);
+        if (figure.fitted.Known()) {
+            return;
+        }
     }
-    return FittedSize();
-}
-
-ViewSize CVideoAnalyseShape::FittedSize() const {
+    const ClientRect rect = ViewRect();
     LockGuard guard(lock);
-    return ViewSize{clientWidth, clientHeight};
+    LearnViewSize(rect);
 }
 
-bool CVideoAnalyseShape::AcceptsPoint(const PointF& point) const {
-    return !IsRetired() && AdjustPointCoordinateHook(viewId, point);
+void CVideoAnalyseShape::LearnViewSize(const ClientRect& view) {
+    if (figure.fitted.Known()) {
+        return;
+    }
+    figure.Adopt(view);
+    if (IShapeContainer* owner = container) {
+        owner->FitChanged();
+    }
 }
 
-bool CVideoAnalyseShape::RequestCapture(bool take) {
+void CVideoAnalyseShape::CopyLook(ShapeLook& look) const {
+    look.figure = figure;
+    look.style = style;
+    look.caption = showNameText;
+    look.state = state;
+    look.selected = selected;
+    look.handles = adjustBoxShown;
+}
+
+bool CVideoAnalyseShape::AcceptsPoint(const PointF& point, const ClientRect& view) const {
+    if (hooks != nullptr && hooks->AdjustPointCoordinateHook) {
+        return hooks->AdjustPointCoordinateHook(viewId, point);
+    }
+    return InClientArea(view, point);
+}
+
+bool CVideoAnalyseShape::PassesValidation(const Points& path, bool complete) const {
+    return hooks == nullptr || hooks->ValidationHook.Accepts(path, complete);
+}
+
+void CVideoAnalyseShape::MarkClaimStale() {
     IShapeContainer* owner = container;
-    return owner != nullptr && owner->RequestCapture(take);
+    if (owner != nullptr && !claimIsStale.exchange(true)) {
+        owner->ClaimChanged(*this);
+    }
 }
 
 void CVideoAnalyseShape::RegisterDraw() {
     IShapeContainer* owner = container;
-    if (owner != nullptr && !drawRegistered) {
-        owner->RegisterDrawEvent(weak_from_this(), DrawHook);
-        drawRegistered = true;
+    if (owner != nullptr && drawTicket == 0) {
+        owner->RegisterDrawEvent(shared_from_this());
     }
 }
 
 void CVideoAnalyseShape::UnregisterDraw() {
-    IShapeContainer* owner = container;
-    if (owner != nullptr && drawRegistered) {
-        owner->unRegisterDrawEvent(DrawHook);
-        drawRegistered = false;
+    if (IShapeContainer* owner = container) {
+        owner->unRegisterDrawEvent(*this);
     }
-}
-
-bool CVideoAnalyseShape::IsInView(ViewID view, const PointF& point) {
-    IShapeContainer* owner = container;
-    return owner != nullptr && owner->IsInClientArea(view, point);
 }
 
 } // namespace rulecanvas

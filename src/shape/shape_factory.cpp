@@ -11,7 +11,7 @@ bool CShapeFactory::Register(const std::string& typeName, Creator creator) {
     return creators.emplace(typeName, creator).second;
 }
 
-std::unique_ptr<CVideoAnalyseShape> CShapeFactory::CreateShape(const std::string& typeName) const {
+ShapePtr CShapeFactory::CreateShape(const std::string& typeName) const {
     const auto found = creators.find(typeName);
     return found == creators.end() ? nullptr : found->second();
 }

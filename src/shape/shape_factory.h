@@ -3,7 +3,6 @@
 #include "shape/shape.h"
 
 #include <map>
-#include <memory>
 #include <string>
 
 namespace rulecanvas {
@@ -12,7 +11,7 @@ namespace rulecanvas {
 /// while a host can call.
 class CShapeFactory {
   public:
-    using Creator = std::unique_ptr<CVideoAnalyseShape> (*)();
+    using Creator = ShapePtr (*)();
 
     static CShapeFactory& GetInstance();
 
@@ -20,7 +19,7 @@ class CShapeFactory {
     bool Register(const std::string& typeName, Creator creator);
 
     /// Null for an unknown name. Names are compared byte for byte.
-    std::unique_ptr<CVideoAnalyseShape> CreateShape(const std::string& typeName) const;
+    ShapePtr CreateShape(const std::string& typeName) const;
 
   private:
     std::map<std::string, Creator> creators;
@@ -28,8 +27,8 @@ class CShapeFactory {
 
 /// A creator for `CShapeFactory::Register`: a new `Shape` made with the given constructor arguments.
 template <class Shape, auto... Arguments>
-std::unique_ptr<CVideoAnalyseShape> MakeShape() {
-    return std::make_unique<Shape>(Arguments...);
+ShapePtr MakeShape() {
+    return std::make_shared<Shape>(Arguments...);
 }
 
 } // namespace rulecanvas

@@ -1,25 +1,8 @@
 #pragma once
 
-#include "rulecanvas/rulecanvas.h"
-
-#include <vector>
+#include "geometry/rectangles.h"
 
 namespace rulecanvas {
-
-using Points = std::vector<PointF>;
-
-/// Width and height of a view's client area; 0 or less while unknown.
-struct ViewSize {
-    int width = 0;
-    int height = 0;
-
-    bool Known() const { return width > 0 && height > 0; }
-};
-
-struct FittedPoints {
-    Points points;
-    ViewSize view;
-};
 
 /// Where a shape stands in its life. The numbers are part of every state notification.
 enum ShapeState : int {
@@ -53,16 +36,23 @@ constexpr Bool32 ToBool32(bool value) {
     return value ? 1U : 0U;
 }
 
-inline bool operator==(const PointF& a, const PointF& b) {
-    return a.x == b.x && a.y == b.y;
-}
-
-inline bool operator!=(const PointF& a, const PointF& b) {
-    return !(a == b);
-}
-
 inline PointF PositionOf(const ContainerMouseEvent& event) {
     return PointF{event.x, event.y};
 }
+
+/// An event of the mouse with the client rectangle of its view, for which the host was asked once.
+struct PointerEvent {
+    const ContainerMouseEvent& record;
+    PointF position;
+    ClientRect view;
+
+    PointerEvent(const ContainerMouseEvent& event, const ClientRect& clientRect)
+        : record(event), position(PositionOf(event)), view(clientRect) {}
+
+    /// False while the view has no size, as that of a minimised window: nothing could be placed in it.
+    bool HasView() const { return SizeOf(view).Known(); }
+    /// The position in whole pixels, kept inside the view as seen from `anchor`.
+    PointF ClampedFrom(const PointF& anchor) const { return ClampRelative(anchor, position, view); }
+};
 
 } // namespace rulecanvas

@@ -6,8 +6,7 @@ bool SideAIsUpper(const PointF& from, const PointF& to) {
     return from.x == to.x ? to.y < from.y : from.x < to.x;
 }
 
-std::vector<CrossingArrow> CrossingArrows(const PointF& from, const PointF& to, const CrossStroke& stroke,
-                                          int direction) {
+CrossingArrowList CrossingArrows(const PointF& from, const PointF& to, const CrossStroke& stroke, int direction) {
     const bool aIsUpper = SideAIsUpper(from, to);
     const CrossingArrow aToB =
         aIsUpper ? CrossingArrow{stroke.upper, stroke.lower} : CrossingArrow{stroke.lower, stroke.upper};
@@ -15,12 +14,12 @@ std::vector<CrossingArrow> CrossingArrows(const PointF& from, const PointF& to, 
     // On a segment drawn straight up both arrows point from A to B: stored rules were drawn against this picture.
     const bool straightUp = from.x == to.x && aIsUpper;
 
-    std::vector<CrossingArrow> arrows;
+    CrossingArrowList arrows;
     if (direction != CrossingBToA) {
-        arrows.push_back(aToB);
+        arrows.Add(aToB);
     }
     if (direction != CrossingAToB) {
-        arrows.push_back(straightUp ? aToB : bToA);
+        arrows.Add(straightUp ? aToB : bToA);
     }
     return arrows;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "shape/geometry.h"
+#include "geometry/arrows.h"
 
-#include <vector>
+#include <cstddef>
 
 namespace rulecanvas {
 
@@ -19,13 +19,24 @@ struct CrossingArrow {
     PointF tip;
 };
 
+/// None, one or two arrows.
+class CrossingArrowList {
+  public:
+    void Add(const CrossingArrow& arrow) { arrows[count++] = arrow; }
+    const CrossingArrow* begin() const { return arrows; }
+    const CrossingArrow* end() const { return arrows + count; }
+
+  private:
+    CrossingArrow arrows[2]{};
+    size_t count = 0;
+};
+
 /// Whether side A of the segment lies at the upper end of the stroke across it, and side B at the lower one; else the
 /// other way round.
 bool SideAIsUpper(const PointF& from, const PointF& to);
 
 /// The arrows along the stroke across a segment that show a direction of crossing. Every direction that is neither of
 /// the two single ones shows two arrows.
-std::vector<CrossingArrow> CrossingArrows(const PointF& from, const PointF& to, const CrossStroke& stroke,
-                                          int direction);
+CrossingArrowList CrossingArrows(const PointF& from, const PointF& to, const CrossStroke& stroke, int direction);
 
 } // namespace rulecanvas

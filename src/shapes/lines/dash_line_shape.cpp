@@ -15,19 +15,18 @@ void DrawDashes(const PointF& from, const PointF& to, const ShapeLook& look, ICo
 
 } // namespace
 
-CDashLineShape::CDashLineShape() : CLineShape(LineOrientation::Free) {}
-
-void CDashLineShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
-    if (look.points.size() > 1) {
-        DrawDashes(look.points[0], look.points[1], look, surface);
-        DrawShowName(look, surface, look.Colour());
-    } else if (look.points.size() == 1 && look.PointerInView()) {
-        DrawDashes(look.points[0], look.lastPoint, look, surface);
+void CDashLineShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    const Points& line = look.Path();
+    if (line.size() > 1) {
+        DrawDashes(line[0], line[1], look, pass.surface);
+        DrawShowName(look, pass.surface);
+    } else if (line.size() == 1 && look.PointerInView()) {
+        DrawDashes(line[0], look.figure.lastPoint, look, pass.surface);
     } else {
         return;
     }
     if (look.handles) {
-        DrawAdjustBoxes(look.points, surface, look.Colour());
+        DrawAdjustBoxes(line, pass.surface, look.Colour());
     }
 }
 

@@ -5,12 +5,12 @@
 namespace rulecanvas {
 
 /// A dashed line without direction mark, for auxiliary lines that must not be mistaken for rules.
-class CDashLineShape : public CLineShape {
+class CDashLineShape final : public CLineShape {
   public:
-    CDashLineShape();
+    CDashLineShape() : CLineShape(LineOrientation::Free) {}
 
   protected:
-    void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
 };
 
 } // namespace rulecanvas

@@ -1,8 +1,8 @@
 #include "shapes/lines/line_geometry.h"
 
-#include "shape/geometry.h"
-#include "shape/grid.h"
-#include "shape/segments.h"
+#include "geometry/grid.h"
+#include "geometry/hit_tests.h"
+#include "geometry/segments.h"
 
 namespace rulecanvas {
 

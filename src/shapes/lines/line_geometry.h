@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shape/types.h"
+#include "geometry/points.h"
 
 #include <cstddef>
 

@@ -1,15 +1,18 @@
 #include "shapes/lines/line_shape.h"
 
+#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
-#include "shape/geometry.h"
+#include "shape/json_text.h"
+#include "shape/point_json.h"
 #include "shape/shape_factory.h"
+#include "shape/text.h"
 #include "shapes/lines/crossing_mark.h"
 #include "shapes/lines/line_geometry.h"
 
-#include <algorithm>
-#include <array>
-
 namespace rulecanvas {
+
+using platform::LockGuard;
+
 namespace {
 
 template <LineOrientation orientation>
@@ -17,11 +20,9 @@ bool Register(const char* typeName) {
     return CShapeFactory::GetInstance().Register(typeName, &MakeShape<CLineShape, orientation>);
 }
 
-const std::array<bool, 3> registered{Register<LineOrientation::Free>("LineShape"),
-                                     Register<LineOrientation::Vertical>("VerticalLineShape"),
-                                     Register<LineOrientation::Horizontal>("HorizontalLineShape")};
-
-constexpr int MinPointSpacing = 6;
+const bool registered = Register<LineOrientation::Free>("LineShape") &&
+                        Register<LineOrientation::Vertical>("VerticalLineShape") &&
+                        Register<LineOrientation::Horizontal>("HorizontalLineShape");
 
 int ShapeTypeOf(LineOrientation orientation) {
     switch (orientation) {
@@ -35,217 +36,62 @@ int ShapeTypeOf(LineOrientation orientation) {
     return 1;
 }
 
+/// The mark goes by the direction that the host gave; the style's direction is that of arrow lines.
+void DrawMarkedSegment(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {
+    const int crossing = look.style.hostDirection;
+    DrawSegment(from, to, look.Thickness(), look.Colour(), surface);
+    if (crossing == NoCrossing) {
+        return;
+    }
+    const CrossStroke stroke = DrawDirectionMark(from, to, look.Colour(), surface);
+    if (crossing < CrossingAToB || crossing > CrossingBothWays) {
+        return;
+    }
+    for (const CrossingArrow& arrow : CrossingArrows(from, to, stroke, crossing)) {
+        DrawDirectionArrow(arrow.tail, arrow.tip, look.Colour(), surface);
+    }
+}
+
 } // namespace
 
 CLineShape::CLineShape(LineOrientation lineOrientation) : orientation(lineOrientation) {
     shapeType = ShapeTypeOf(orientation);
     maxPtNum = LinePoints;
-    DragPointsHook =
-        decltype(DragPointsHook)::Bind<&CVideoAnalyseShape::BuildDragPoints>(static_cast<CVideoAnalyseShape*>(this));
 }
 
 CLineShape::CLineShape(const CLineShape& other) : CLineShape(other.orientation) {
+    LockGuard guard(other.lock);
     horizon = other.horizon;
     movedHLine = other.movedHLine;
-    maxPtNum = other.maxPtNum.load();
-    canAdjust = other.canAdjust;
-    canMove = other.canMove;
-    lineThickness = other.lineThickness;
-    unSelLineThickness = other.unSelLineThickness;
+    maxPtNum = other.maxPtNum;
+    style = other.style;
     name = other.name;
     if (other.eventNameSet) {
         SetEventName(other.GetEventName().c_str());
     }
-    platform::LockGuard guard(other.lock);
-    selColor = other.selColor;
-    unSelColor = other.unSelColor;
-    textStyle = other.textStyle;
-}
-
-CVideoAnalyseShape* CLineShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    if (state == Complete) {
-        hitLevel = OnPath(CopyPoints(), PositionOf(event)) ? OnOutline : Outside;
-    } else if (state != Deleted) {
-        hitLevel = Busy;
-    }
-    return this;
-}
-
-void CLineShape::ClearShape() {
-    ClearPoints(); // first: a paint must not see a rubber line to the origin
-    SetLastPoint(PointF{});
-    CGestureShape::ClearShape();
-}
-
-void CLineShape::RemoveSubShape(ShapeID /*id*/) {
-    ClearShape();
 }
 
 size_t CLineShape::MaximumPoints() const {
-    return LinePoints;
+    return LinePoints; // limits of the host are for lines that may bend
 }
 
-bool CLineShape::IsAcceptable(const Points& path, bool complete) const {
-    return ValidationHook.Accepts(path, complete);
+PointF CLineShape::Oriented(const PointF& point, const PointF& other) const {
+    return PointF{orientation == LineOrientation::Vertical ? other.x : point.x,
+                  orientation == LineOrientation::Horizontal ? other.y : point.y};
 }
 
-PointF CLineShape::Oriented(PointF point, const PointF& other) const {
-    if (orientation == LineOrientation::Vertical) {
-        point.x = other.x;
-    } else if (orientation == LineOrientation::Horizontal) {
-        point.y = other.y;
-    }
-    return point;
+bool CLineShape::IsWithinLimit(const PointF& first, const PointF& point) const {
+    return eventNameSet || (InPolygon(limitArea, point) && !CrossesPath(first, point, limitArea));
 }
 
-void CLineShape::StartDrawing(const PointF& press) {
-    if (AcceptsPoint(press) && IsAcceptable({press}, false) && state == Waiting) {
-        SetLastPoint(press);
-        ReplacePoints({press});
-        BeginGesture(Drawing);
-    }
-}
-
-void CLineShape::StartEditing(const PointF& press, int hitLevel) {
-    if (!canAdjust) {
-        return;
-    }
-    grabbedIndex = VertexIndex(CopyPoints(), press);
-    if (grabbedIndex >= 0) {
-        Grab(Adjusting);
-    } else if (hitLevel == OnOutline) {
-        SetAnchorPoint(press);
-        Grab(Moving);
-    }
-}
-
-bool CLineShape::OnMouseMove(const PointF& position) {
-    switch (state) {
-    case Drawing:
-        DragRubberEnd(position);
-        break;
-    case Moving:
-        MoveTo(position);
-        break;
-    case Adjusting:
-        AdjustEndpoint(position);
-        break;
-    default:
-        break;
-    }
-    return true;
-}
-
-void CLineShape::DragRubberEnd(const PointF& position) {
-    const Points path = CopyPoints();
-    if (!path.empty()) {
-        SetLastPoint(ClampToView(path.front(), position));
-    }
-}
-
-bool CLineShape::OnButtonUp(const PointF& position, const ContainerMouseEvent& /*event*/) {
-    switch (state) {
-    case Drawing:
-        PlacePoint(position);
-        break;
-    case Moving:
-    case Adjusting:
-        FinishEditing(position);
-        break;
-    default:
-        break;
-    }
-    return true;
-}
-
-void CLineShape::PlacePoint(const PointF& position) {
-    bool beyondLimit = false;
-    const bool taken = EditPoints([&](Points& path) {
-        if (path.empty() || path.size() >= MaximumPoints() || !HasView()) {
-            return false;
-        }
-        const PointF release = Released(position, path.front());
-        beyondLimit = !eventNameSet && !LimitAllows(path.front(), release);
-        return !beyondLimit && OfferPoint(release, path);
-    });
-    const Points path = CopyPoints();
-    const bool complete = path.size() >= MaximumPoints();
-    if (beyondLimit || (taken && !IsAcceptable(path, complete))) {
-        RestartDrawing();
-    } else if (taken && complete) {
-        FinishGesture();
-    }
-}
-
-PointF CLineShape::Released(const PointF& position, const PointF& first) const {
-    PointF release = ClampToView(first, position);
-    if (horizon || movedHLine) {
-        release.y = first.y;
-    }
-    return release;
-}
-
-bool CLineShape::LimitAllows(const PointF& first, const PointF& point) const {
-    return InPolygon(limitArea, point) && !CrossesPath(first, point, limitArea);
-}
-
-/// Appends the point unless it may not be there or is too near to the last one.
-bool CLineShape::OfferPoint(const PointF& point, Points& path) const {
-    const PointF next = path.size() == 1 ? Oriented(point, path.front()) : point;
-    if (!AcceptsPoint(next) || CloserThan(MinPointSpacing, path.back(), next)) {
+bool CLineShape::DragPoint(int index, const PointF& to, const ClientRect& view) {
+    Points& line = figure.points;
+    if (index < 0 || index > 1 || line.size() < LinePoints) {
         return false;
     }
-    path.push_back(next);
+    const PointF& other = line[static_cast<size_t>(1 - index)];
+    line[static_cast<size_t>(index)] = ClampRelative(other, Oriented(to, other), view);
     return true;
-}
-
-void CLineShape::MoveTo(const PointF& position) {
-    if (canMove && !FollowMouse(position) && state == Moving) {
-        state = Complete; // a line that meets the border is let go
-        EndGesture();
-    }
-}
-
-bool CLineShape::AdjustEndpoint(const PointF& position) {
-    return canAdjust && !movedHLine && HasView() && EditPoints([&](Points& adjusted) {
-               if (!DragPointsHook(grabbedIndex, position, adjusted)) {
-                   return false;
-               }
-               if (horizon && adjusted.size() >= LinePoints) {
-                   adjusted[1].y = adjusted[0].y;
-               }
-               return true;
-           });
-}
-
-void CLineShape::FinishEditing(const PointF& release) {
-    const bool undisturbed = Undisturbed([&] {
-        AdjustEndpoint(release);
-        ValidationHook(CopyPoints(), true);
-    });
-    if (undisturbed) {
-        FinishGesture();
-    }
-}
-
-bool CLineShape::MoveShape(float dx, float dy) {
-    return CGestureShape::MoveShape(horizon || movedHLine ? 0.0F : dx, dy);
-}
-
-bool CLineShape::BuildDragPoints(int index, const PointF& current, Points& out) {
-    out = CopyPoints();
-    if (index < 0 || index > 1 || out.size() < LinePoints) {
-        return false;
-    }
-    const PointF other = out[static_cast<size_t>(1 - index)];
-    out[static_cast<size_t>(index)] = ClampToView(other, Oriented(current, other));
-    return true;
-}
-
-void CLineShape::SetShapePoints(Points newPoints) {
-    if (newPoints.size() == LinePoints) {
-        ReplacePoints(std::move(newPoints));
-    }
 }
 
 bool CLineShape::SetLimitArea(const CVideoAnalyseShape* area) {
@@ -259,33 +105,42 @@ bool CLineShape::SetLimitArea(const CVideoAnalyseShape* area) {
     return true;
 }
 
-void CLineShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
-    if (look.points.size() >= LinePoints) {
-        DrawMarkedSegment(look.points[0], look.points[1], look, surface);
-        if (!look.caption.empty()) {
-            DrawShowName(look, surface, look.Colour());
+bool CLineShape::ClipToPolygon(const char* text, const char* key, int mode) {
+    Json::Value root;
+    if (IsEmpty(text) || IsEmpty(key) || mode != 0 || !ParseJson(text, root)) {
+        return false;
+    }
+    LearnViewSize();
+    LockGuard guard(lock);
+    Points ring;
+    for (const Json::Value& corner : MemberOf(root, key)) {
+        if (!IsArrayOf(corner, 2)) {
+            return false;
         }
-    } else if (look.points.size() == 1 && look.PointerInView()) {
-        DrawMarkedSegment(look.points[0], Oriented(look.lastPoint, look.points[0]), look, surface);
+        ring.push_back(ReadRealPoint(corner, figure.fitted));
     }
-    if (look.handles) {
-        DrawAdjustBoxes(look.points, surface, look.Colour());
+    Points& line = figure.points;
+    Points meetings = line.size() == LinePoints ? MeetingsWithRing(line[0], line[1], ring) : Points();
+    if (meetings.size() != LinePoints) {
+        return false;
     }
+    line = std::move(meetings);
+    MarkClaimStale();
+    return true;
 }
 
-/// The mark goes by the direction that the host gave; the style's direction is that of arrow lines.
-void CLineShape::DrawMarkedSegment(const PointF& from, const PointF& to, const ShapeLook& look,
-                                   IContainerGraphics& surface) {
-    const int crossing = hostDirection;
-    DrawOpenPath({from, to}, look.Thickness(), look.Colour(), surface);
-    if (crossing == NoCrossing) {
-        return;
-    }
-    const CrossStroke stroke = DrawDirectionMark(from, to, look.Colour(), surface);
-    if (crossing >= CrossingAToB && crossing <= CrossingBothWays) {
-        for (const CrossingArrow& arrow : CrossingArrows(from, to, stroke, crossing)) {
-            DrawDirectionArrow(arrow.tail, arrow.tip, look.Colour(), surface);
+void CLineShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    const Points& line = look.Path();
+    if (line.size() >= LinePoints) {
+        DrawMarkedSegment(line[0], line[1], look, pass.surface);
+        if (!look.caption.empty()) {
+            DrawShowName(look, pass.surface);
         }
+    } else if (line.size() == 1 && look.PointerInView()) {
+        DrawMarkedSegment(line[0], Oriented(look.figure.lastPoint, line[0]), look, pass.surface);
+    }
+    if (look.handles) {
+        DrawAdjustBoxes(line, pass.surface, look.Colour());
     }
 }
 

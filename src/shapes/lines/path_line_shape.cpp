@@ -6,15 +6,28 @@
 
 namespace rulecanvas {
 
-CPathLineShape::CPathLineShape() : CLineShape(LineOrientation::Free) {}
+using platform::LockGuard;
+
+namespace {
+
+/// Of every line that is not tied to a direction.
+constexpr int FreeLineType = 1;
+
+} // namespace
+
+CPathLineShape::CPathLineShape() {
+    shapeType = FreeLineType;
+    maxPtNum = LinePoints;
+}
 
 size_t CPathLineShape::MaximumPoints() const {
-    return std::max(LinePoints, static_cast<size_t>(std::max(0, maxPtNum.load())));
+    return std::max(LinePoints, static_cast<size_t>(std::max(0, maxPtNum)));
 }
 
 CVideoAnalyseShape* CPathLineShape::HitTestRButtonDown(const ContainerMouseEvent& /*event*/, int& hitLevel) {
     constexpr size_t shortestPath = 2;
-    if (state != Drawing || PointCount() < shortestPath) {
+    LockGuard guard(lock);
+    if (state != Drawing || figure.points.size() < shortestPath) {
         return nullptr;
     }
     hitLevel = Busy;
@@ -25,17 +38,16 @@ void CPathLineShape::HandleRButtonEvent(const ContainerMouseEvent& /*event*/, in
     FinishByRightButton(hitLevel);
 }
 
-bool CPathLineShape::BuildDragPoints(int index, const PointF& current, Points& out) {
-    out = CopyPoints();
+bool CPathLineShape::DragPoint(int index, const PointF& to, const ClientRect& view) {
     const auto vertex = static_cast<size_t>(index);
-    if (index < 0 || vertex >= std::min(out.size(), MaximumPoints())) {
+    if (index < 0 || vertex >= std::min(figure.points.size(), MaximumPoints())) {
         return false;
     }
-    KnownViewSize(); // a size that was unknown so far is taken over here, and the points are fitted from then on
-    if (!AcceptsPoint(current)) {
+    LearnViewSize(view); // the points are fitted from here on
+    if (!AcceptsPoint(to, view)) {
         return false;
     }
-    out[vertex] = current;
+    figure.points[vertex] = to;
     return true;
 }
 

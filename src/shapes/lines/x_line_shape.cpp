@@ -14,46 +14,14 @@ constexpr float NameSize = 0.0F;
 constexpr float LetterSize = 1.0F;
 constexpr float SideArrowWidth = 1.0F;
 
-} // namespace
-
-CXLineShape::CXLineShape() {
-    maxPtNum = LongestPath;
-}
-
-void CXLineShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
-    const Points& path = look.points;
-    if (path.empty()) {
-        return;
-    }
-    const bool rubberLine = look.state == Drawing && look.PointerInView();
-    if (rubberLine) {
-        DrawNamedSegment(path.back(), look.lastPoint, look, surface);
-    }
-    for (size_t i = 1; i < path.size(); ++i) {
-        DrawNamedSegment(path[i - 1], path[i], look, surface);
-    }
-    if (path.size() > 1) {
-        const size_t middle = path.size() / 2;
-        DrawSides(path[middle - 1], path[middle], look, surface);
-    }
-    if (rubberLine) {
-        DrawSides(path.back(), look.lastPoint, look, surface);
-    }
-    if (look.handles) {
-        DrawAdjustBoxes(path, surface, look.Colour());
-    }
-}
-
 /// The name is written again for every segment, always at the first point; the thickness is always the selected one.
-void CXLineShape::DrawNamedSegment(const PointF& from, const PointF& to, const ShapeLook& look,
-                                   IContainerGraphics& surface) const {
-    DrawCaptionAt(look.points[0], look.Text(look.Colour(), NameSize), look.caption, surface);
-    DrawOpenPath({from, to}, look.SelectedThickness(), look.Colour(), surface);
+void DrawNamedSegment(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {
+    DrawCaptionAt(look.Path()[0], look.Text(look.Colour(), NameSize), look.caption, surface);
+    DrawSegment(from, to, look.SelectedThickness(), look.Colour(), surface);
 }
 
-void CXLineShape::DrawSides(const PointF& from, const PointF& to, const ShapeLook& look,
-                            IContainerGraphics& surface) const {
-    const int crossing = hostDirection;
+void DrawSides(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {
+    const int crossing = look.style.hostDirection;
     if (crossing == NoCrossing) {
         return;
     }
@@ -65,6 +33,37 @@ void CXLineShape::DrawSides(const PointF& from, const PointF& to, const ShapeLoo
     DrawCaptionAt(stroke.lower, style, aIsUpper ? "B" : "A", surface);
     for (const CrossingArrow& arrow : CrossingArrows(from, to, stroke, crossing)) {
         DrawArrowHead(arrow.tail, arrow.tip, SideArrowWidth, colour, surface);
+    }
+}
+
+} // namespace
+
+CXLineShape::CXLineShape() {
+    maxPtNum = LongestPath;
+}
+
+void CXLineShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    const Points& path = look.Path();
+    const PointF& pointer = look.figure.lastPoint;
+    if (path.empty()) {
+        return;
+    }
+    const bool rubberLine = look.state == Drawing && look.PointerInView();
+    if (rubberLine) {
+        DrawNamedSegment(path.back(), pointer, look, pass.surface);
+    }
+    for (size_t i = 1; i < path.size(); ++i) {
+        DrawNamedSegment(path[i - 1], path[i], look, pass.surface);
+    }
+    if (path.size() > 1) {
+        const size_t middle = path.size() / 2;
+        DrawSides(path[middle - 1], path[middle], look, pass.surface);
+    }
+    if (rubberLine) {
+        DrawSides(path.back(), pointer, look, pass.surface);
+    }
+    if (look.handles) {
+        DrawAdjustBoxes(path, pass.surface, look.Colour());
     }
 }
 

@@ -1,7 +1,5 @@
 #include "shapes/regions/mosaic.h"
 
-#include "shape/geometry.h"
-
 #include <algorithm>
 
 namespace rulecanvas {

@@ -1,47 +1,25 @@
 #include "shapes/regions/oval_shape.h"
 
+#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
-#include "shape/geometry.h"
-#include "shape/json_text.h"
 #include "shape/notifications.h"
 #include "shape/point_json.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
+#include "shapes/regions/oval_handles.h"
 
 #include <algorithm>
 
 namespace rulecanvas {
+
+using platform::LockGuard;
+
 namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("OvalShape", &MakeShape<COvalShape>);
 
-/// Ovals are read under this key whatever their name, but written under their name, and both are to stay so: a host renames
-/// the member of what it saved before it loads it.
-constexpr const char* ConfigurationKey = "OvalShape";
 constexpr int SmallestResize = 4;
-
-enum class Keeps { Nothing, X, Y };
-
-/// What stays where it is while a handle is dragged.
-struct Handle {
-    size_t anchorCorner;
-    Keeps keeps;
-    size_t keptCorner;
-};
-
-/// Clockwise from the top left, like the points of HandlesOf.
-constexpr Handle Handles[] = {
-    {2, Keeps::Nothing, 0}, {2, Keeps::X, 0}, {3, Keeps::Nothing, 0}, {0, Keeps::Y, 2},
-    {0, Keeps::Nothing, 0}, {0, Keeps::X, 2}, {1, Keeps::Nothing, 0}, {1, Keeps::Y, 3},
-};
-
-Points HandlesOf(const Points& corners) {
-    const float halfWidth = (corners[2].x - corners[0].x) / 2.0F;
-    const float halfHeight = (corners[2].y - corners[0].y) / 2.0F;
-    return {
-        corners[0], {corners[0].x + halfWidth, corners[0].y}, corners[1], {corners[1].x, corners[1].y + halfHeight},
-        corners[2], {corners[2].x - halfWidth, corners[2].y}, corners[3], {corners[3].x, corners[3].y - halfHeight}};
-}
+/// After a drawing the mouse is asked for once more, not given back: an oval keeps it.
+constexpr Effect FinishDrawn[] = {Effect::TellState, Effect::StopListening, Effect::TakeMouse};
 
 /// The corners of a configuration may come in any order.
 bool InBox(const Points& corners, const PointF& p) {
@@ -52,190 +30,171 @@ bool InBox(const Points& corners, const PointF& p) {
 
 } // namespace
 
-COvalShape::COvalShape() {
-    StateNotifyHook = decltype(StateNotifyHook)::Bind<&COvalShape::SendState>(this);
-}
-
 CVideoAnalyseShape* COvalShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
     const PointF press = PositionOf(event);
-    const Points corners = CopyPoints();
+    LockGuard guard(lock);
     if (state == Waiting || state == Drawing) {
         hitLevel = Busy;
-    } else if (state == Complete && corners.size() == CornerCount) {
-        if (OnRing(corners, press)) {
+    } else if (state == Complete && HasCorners()) {
+        if (OnRing(figure.points, press)) {
             hitLevel = OnOutline;
         } else {
-            hitLevel = InBox(corners, press) ? Inside : Outside;
+            hitLevel = InBox(figure.points, press) ? Inside : Outside;
         }
     }
     return this;
 }
 
-void COvalShape::GetShapePoints(Points& out) const {
-    AppendPointsTo(out);
+Claim COvalShape::BusyClaim() const {
+    return state == Moving || state == Adjusting ? Claim::Nowhere() : Claim::Everywhere();
+}
+
+Claim COvalShape::CompleteClaim() const {
+    return HasCorners() ? Claim::Around(figure.points, HitReach, true) : Claim::Nowhere();
 }
 
 void COvalShape::ClearShape() {
-    ClearPoints();
+    {
+        LockGuard guard(lock);
+        Forget();
+    }
+    MarkClaimStale();
 }
 
 bool COvalShape::RestartDrawing() {
     return true;
 }
 
-void COvalShape::StartDrawing(const PointF& press) {
-    SetAnchorPoint(press);
-    SetLastPoint(press);
-    BeginGesture(Drawing);
+Outcome COvalShape::StartDrawing(const PointerEvent& press) {
+    figure.anchorPoint = press.position;
+    return ResumeDrawing(press);
 }
 
-void COvalShape::StartEditing(const PointF& press, int /*hitLevel*/) {
-    const Points corners = CopyPoints();
-    if (corners.size() != CornerCount) {
-        return;
+/// A click left the oval listening: now it goes on from that click.
+Outcome COvalShape::ResumeDrawing(const PointerEvent& position) {
+    figure.lastPoint = position.position;
+    return Begin(Drawing);
+}
+
+Outcome COvalShape::DrawTo(const PointerEvent& position) {
+    figure.lastPoint = position.position;
+    return {};
+}
+
+Outcome COvalShape::FinishWaiting(const PointerEvent& release) {
+    return EndDrawing(release);
+}
+
+Outcome COvalShape::EndDrawing(const PointerEvent& release) {
+    if (release.position == figure.anchorPoint) {
+        return {Waiting, {}}; // and keeps listening: a click is as good a beginning as a press
     }
-    grabbedIndex = VertexIndex(HandlesOf(corners), press);
-    if (grabbedIndex >= 0) {
-        const Handle& handle = Handles[grabbedIndex];
-        SetAnchorPoint(corners[handle.anchorCorner]);
+    if (!release.HasView()) {
+        return {};
+    }
+    figure.lastPoint = release.position;
+    SetCorners(figure.points, SpanRectangle(figure.anchorPoint, release.position, release.view).rect);
+    return {Complete, FinishDrawn};
+}
+
+Outcome COvalShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
+    if (!HasCorners()) {
+        return {};
+    }
+    const Points& corners = figure.points;
+    figure.grabbedIndex = VertexIndex(OvalHandlePoints(corners), press.position);
+    if (figure.grabbedIndex >= 0) {
+        const OvalHandle& handle = OvalHandles[figure.grabbedIndex];
+        figure.anchorPoint = corners[handle.anchorCorner];
         edgeFixPoint = corners[handle.keptCorner];
-        Grab(Adjusting);
-    } else if (InBox(corners, press)) {
-        SetAnchorPoint(press);
-        Grab(Moving);
+        return Grab(Adjusting);
     }
-}
-
-bool COvalShape::OnMouseMove(const PointF& position) {
-    switch (state) {
-    case Waiting: // a click left the oval listening: now it goes on from that click
-        SetLastPoint(position);
-        BeginGesture(Drawing);
-        break;
-    case Drawing:
-        SetLastPoint(position);
-        break;
-    case Moving:
-        FollowMouse(position);
-        break;
-    case Adjusting:
-        Resize(position);
-        break;
-    default:
-        break;
+    if (InBox(corners, press.position)) {
+        figure.anchorPoint = press.position;
+        return Grab(Moving);
     }
-    return true;
+    return {};
 }
 
-bool COvalShape::Resize(const PointF& position) {
-    const Keeps keeps = Handles[grabbedIndex].keeps;
-    const PointF dragged{keeps == Keeps::X ? edgeFixPoint.x : position.x,
-                         keeps == Keeps::Y ? edgeFixPoint.y : position.y};
-    return EditPoints([&](Points& corners) {
-        const ClientRect rect = SpanRectangle(anchorPoint, dragged, ViewRect()).rect;
-        const ViewSize size = SizeOf(rect);
-        corners = CornersOf(rect);
-        return size.width >= SmallestResize && size.height >= SmallestResize;
-    });
+Outcome COvalShape::MoveTo(const PointerEvent& position) {
+    FollowMouse(position.position, position.view);
+    return {};
 }
 
-bool COvalShape::OnButtonUp(const PointF& position, const ContainerMouseEvent& /*event*/) {
-    switch (state) {
-    case Waiting:
-    case Drawing:
-        return FinishDrawing(position);
-    case Moving:
-    case Adjusting:
-        SetLastPoint(position);
-        return FinishGesture();
-    default:
-        return true;
-    }
+Outcome COvalShape::EndMove(const PointerEvent& release) {
+    figure.lastPoint = release.position;
+    return Finish();
 }
 
-bool COvalShape::FinishDrawing(const PointF& release) {
-    if (release == anchorPoint) {
-        state = Waiting; // and keeps listening: a click is as good a beginning as a press
+Outcome COvalShape::AdjustTo(const PointerEvent& position) {
+    DragPoint(figure.grabbedIndex, position.position, position.view);
+    return {};
+}
+
+Outcome COvalShape::EndAdjust(const PointerEvent& release) {
+    return EndMove(release);
+}
+
+bool COvalShape::DragPoint(int index, const PointF& to, const ClientRect& view) {
+    if (index < 0 || index >= static_cast<int>(std::size(OvalHandles))) {
         return false;
     }
-    const int stateBefore = state;
-    const ClientRect view = ViewRect();
-    if (!SizeOf(view).Known() || stateBefore != state) {
-        return false;
-    }
-    SetLastPoint(release);
-    ReplacePoints(CornersOf(SpanRectangle(anchorPoint, release, view).rect));
-    if (!BecomeComplete()) {
-        return false;
-    }
-    Unsubscribe();
-    return Capture(true); // after a drawing the mouse is asked for once more, not given back: an oval keeps it
+    const Keeps keeps = OvalHandles[index].keeps;
+    const PointF dragged{keeps == Keeps::X ? edgeFixPoint.x : to.x, keeps == Keeps::Y ? edgeFixPoint.y : to.y};
+    return SpanCorners(figure.anchorPoint, dragged, view, SmallestResize);
 }
 
-bool COvalShape::SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* /*styleOrMode*/) {
-    BeginConfiguration(shapeName);
-    if (!IsEmpty(shapeData) && !LoadCorners(shapeData)) {
-        return false;
-    }
-    RegisterDraw();
-    return true;
+/// Ovals are read under this key whatever their name, but written under their name, and both are to stay so: a host
+/// renames the member of what it saved before it loads it.
+std::string COvalShape::GeometryKey() const {
+    return "OvalShape";
 }
 
-bool COvalShape::LoadCorners(const char* shapeData) {
-    Json::Value root;
-    if (!ParseJson(shapeData, root)) {
-        return false;
-    }
-    const Json::Value& diagonal = MemberOf(root, ConfigurationKey);
+Refused COvalShape::Load(Loading& loading) {
+    const Json::Value& diagonal = loading.geometry;
     if (!IsArrayOf(diagonal, 2)) {
-        return false;
+        return loading.Refuse("an array of 2 corners");
     }
-    const ViewSize view = FittedSize();
-    const PointF first = ReadPoint(diagonal[0], view);
+    const PointF first = ReadPoint(diagonal[0], figure.fitted);
     if (diagonal[1].isNull()) {
-        state = Drawing;
-        return true;
+        Enter(Drawing);
+        return std::nullopt;
     }
-    const PointF second = ReadPoint(diagonal[1], view);
-    ReplacePoints({first, {second.x, first.y}, second, {first.x, second.y}});
-    state = Complete;
-    return true;
-}
-
-bool COvalShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const auto [corners, view] = CopyFitted();
-    return corners.size() >= CornerCount &&
-           CopyText(PointsText(name, Truncated({corners[0], corners[2]}), view), buffer, size);
+    const PointF second = ReadPoint(diagonal[1], figure.fitted);
+    figure.points = {first, {second.x, first.y}, second, {first.x, second.y}};
+    Enter(Complete);
+    return std::nullopt;
 }
 
 bool COvalShape::IsShownIn(ViewID /*view*/) const {
-    platform::LockGuard guard(lock);
-    return state != Deleted && (visible || anchorPoint != lastPoint);
+    LockGuard guard(lock);
+    return state != Deleted && (visible || figure.anchorPoint != figure.lastPoint);
 }
 
-void COvalShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
+void COvalShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    const Points& corners = look.Path();
     const bool drawn = look.state >= Complete;
-    const bool framed = look.points.size() == CornerCount;
+    const bool framed = corners.size() == CornerCount;
     if (drawn && !framed) {
         return;
     }
-    const PointF& from = drawn ? look.points[0] : look.anchorPoint;
-    const PointF& to = drawn ? look.points[2] : look.lastPoint;
-    const ColorF colour = look.Colour();
-    surface.DrawEllipse(&from, &to, look.SelectedThickness(), &colour);
+    const PointF& from = drawn ? corners[0] : look.figure.anchorPoint;
+    const PointF& to = drawn ? corners[2] : look.figure.lastPoint;
+    const ColorF& colour = look.Colour();
+    pass.surface.DrawEllipse(&from, &to, look.SelectedThickness(), &colour);
     if (!framed) {
         return;
     }
-    DrawCaptionAt(from, look.Text(colour, FigureCaptionSize), look.caption, surface);
+    DrawCaptionAt(from, look.Text(colour, FigureCaptionSize), look.caption, pass.surface);
     if (look.handles) {
-        DrawAdjustBoxes(HandlesOf(look.points), surface, colour);
+        DrawAdjustBoxes(OvalHandlePoints(corners), pass.surface, colour);
     }
 }
 
 /// An oval's changes of state can be followed in a debugger.
-void COvalShape::SendState(int previousState, int newState) {
+void COvalShape::TellState(int previousState, int newState) {
     platform::DebugOutput(StateEvent(*this, previousState, newState).c_str());
-    CGestureShape::SendState(previousState, newState);
+    CGestureShape::TellState(previousState, newState);
 }
 
 } // namespace rulecanvas

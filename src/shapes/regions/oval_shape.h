@@ -1,25 +1,17 @@
 #pragma once
 
-#include "shape/gesture_shape.h"
+#include "shapes/regions/box_shape.h"
 
 namespace rulecanvas {
 
-/// An ellipse, drawn by dragging from one corner of its bounding rectangle to the opposite one.
-///
-/// Its points are the corners of that rectangle: top left, top right, bottom right, bottom left. Presses are judged by
-/// the rectangle, not by the ellipse. Eight handles, the corners and the middles of the edges, resize it.
+/// An ellipse inscribed in its box. Presses are judged by the box, not by the ellipse. Eight handles, the corners and
+/// the middles of the edges, resize it.
 ///
 /// `anchorPoint` is the press while the oval is drawn, the last accepted mouse position while it is moved, and the
 /// fixed corner while it is resized; `lastPoint` is where the mouse is while it is drawn, then where it was released.
-class COvalShape : public CGestureShape {
+class COvalShape final : public CBoxShape {
   public:
-    COvalShape();
-
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
-    bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
-    bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
-    /// Appends the corners.
-    void GetShapePoints(Points& out) const override;
     /// Forgets the figure alone: an oval is cleared only on its way out, which ends its gesture too.
     void ClearShape() override;
     /// An oval stays as it is: to draw another one, the host makes a new shape.
@@ -27,23 +19,31 @@ class COvalShape : public CGestureShape {
     bool AwaitsPaint() const override { return false; }
 
   protected:
-    void StartDrawing(const PointF& press) override;
-    void StartEditing(const PointF& press, int hitLevel) override;
-    bool OnMouseMove(const PointF& position) override;
-    bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
+    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome ResumeDrawing(const PointerEvent& position) override;
+    Outcome FinishWaiting(const PointerEvent& release) override;
+    Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
+    Outcome MoveTo(const PointerEvent& position) override;
+    Outcome EndMove(const PointerEvent& release) override;
+    Outcome AdjustTo(const PointerEvent& position) override;
+    Outcome EndAdjust(const PointerEvent& release) override;
+    bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
+
+    bool TakesStyle() const override { return false; }
+    std::string GeometryKey() const override;
+    Refused Load(Loading& loading) override;
+    Claim BusyClaim() const override;
+    Claim CompleteClaim() const override;
     /// In every view. A hidden oval still shows as long as its last drag has an extent, so that the user sees what the
     /// mouse does.
     bool IsShownIn(ViewID view) const override;
-    void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+    void TellState(int previousState, int newState) override;
 
   private:
-    static constexpr size_t CornerCount = 4;
-
-    bool FinishDrawing(const PointF& release);
-    bool Resize(const PointF& position);
-    bool LoadCorners(const char* shapeData);
-    void SendState(int previousState, int newState);
-
+    /// The coordinate that stays while a handle in the middle of an edge is dragged.
     PointF edgeFixPoint{};
 };
 

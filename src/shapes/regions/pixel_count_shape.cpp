@@ -1,10 +1,7 @@
 #include "shapes/regions/pixel_count_shape.h"
 
 #include "shape/drawing.h"
-#include "shape/geometry.h"
-#include "shape/json_text.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,108 +31,90 @@ int PixelsBetween(float from, float to, int display, int video) {
 } // namespace
 
 CPixelCountShape::CPixelCountShape() {
-    lineThickness = 1;
+    style.lineThickness = 1;
     minimumSide = std::numeric_limits<int>::min(); // whatever the view leaves of a drag is a size worth measuring
 }
 
-bool CPixelCountShape::SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) {
-    ParseStyleConfig(styleOrMode);
-    BeginConfiguration(shapeName);
-    if (!IsEmpty(shapeData) && !LoadSize(shapeData)) {
-        return false;
+Refused CPixelCountShape::Load(Loading& loading) {
+    if (!IsArrayOf(loading.geometry, 2)) {
+        return loading.Refuse("an array of a width and a height");
     }
-    RegisterDraw();
-    return true;
-}
-
-bool CPixelCountShape::LoadSize(const char* shapeData) {
-    Json::Value root;
-    if (!ParseJson(shapeData, root)) {
-        return false;
-    }
-    const Json::Value& size = MemberOf(root, name);
-    if (!IsArrayOf(size, 2)) {
-        return false;
-    }
-    pixelWidth = size[0].asInt();
-    pixelHeight = size[1].asInt();
+    pixelWidth = loading.geometry[0].asInt();
+    pixelHeight = loading.geometry[1].asInt();
     placePending = true;
-    state = Complete;
-    return true;
+    Enter(Complete);
+    return std::nullopt;
 }
 
-bool CPixelCountShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    if (PointCount() < CornerCount) {
+Json::Value CPixelCountShape::WriteGeometry(const Points& points, const ViewSize& /*view*/) const {
+    Json::Value measured;
+    if (points.size() >= CornerCount) {
+        measured.append(pixelWidth);
+        measured.append(pixelHeight);
+    }
+    return measured;
+}
+
+void CPixelCountShape::Forget() {
+    placePending = false; // or a later paint would put it in the place of what the user draws next
+    CRectangleShape::Forget();
+}
+
+bool CPixelCountShape::FitToPaint(const PaintPass& pass) {
+    const ClientRect* painted = pass.PaintedRect();
+    if (painted == nullptr && (placePending || !figure.fitted.Known())) {
         return false;
     }
-    Json::Value root;
-    Json::Value& measured = root[name];
-    measured.append(pixelWidth.load());
-    measured.append(pixelHeight.load());
-    return CopyText(WriteJson(root), buffer, size);
-}
-
-void CPixelCountShape::ClearShape() {
-    placePending = false; // or a later paint would put it in the place of what the user draws next
-    CRectangleShape::ClearShape();
-}
-
-void CPixelCountShape::PrepareToDraw() {
-    TakeOverVideoSize();
-    const ViewSize display = KnownViewSize();
-    if (video.Known() && display.Known()) {
-        Place(display);
-        Measure(display);
+    if (painted != nullptr) {
+        LearnViewSize(*painted);
     }
-}
-
-void CPixelCountShape::TakeOverVideoSize() {
     IShapeContainer* owner = GetContainer();
     if (owner != nullptr && !video.Known()) {
         video = owner->GetPixelCount();
     }
+    if (video.Known() && figure.fitted.Known()) {
+        if (placePending) {
+            Place(*painted, pass.viewZero);
+        }
+        Measure();
+    }
+    return true;
 }
 
-void CPixelCountShape::Place(const ViewSize& display) {
-    if (!placePending) {
-        return;
-    }
+void CPixelCountShape::Place(const ClientRect& painted, const ClientRect& viewZero) {
+    const ViewSize& display = figure.fitted;
     const int centreX = display.width / 2;
     const int centreY = display.height / 2;
     const PointF centre{static_cast<float>(centreX), static_cast<float>(centreY)};
     const PointF half{HalfSide(pixelWidth, display.width, video.width),
                       HalfSide(pixelHeight, display.height, video.height)};
-    const bool placed = EditPoints([&](Points& corners) {
-        return placePending && BuildFromTwoPoints(PointF{centre.x - half.x, centre.y - half.y},
-                                                  PointF{centre.x + half.x, centre.y + half.y}, corners);
-    });
-    if (placed) {
+    if (SpanCorners(Shifted(centre, -half.x, -half.y), Shifted(centre, half.x, half.y), painted, minimumSide)) {
         placePending = false;
-        FitToClientRect();
+        figure.FitTo(viewZero);
+        MarkClaimStale();
     }
 }
 
-void CPixelCountShape::Measure(const ViewSize& display) {
-    const Points corners = CopyPoints();
-    if (corners.size() == CornerCount && (state == Drawing || state == Adjusting)) {
-        pixelWidth = PixelsBetween(corners[0].x, corners[2].x, display.width, video.width);
-        pixelHeight = PixelsBetween(corners[0].y, corners[2].y, display.height, video.height);
+void CPixelCountShape::Measure() {
+    const Points& corners = figure.points;
+    if (HasCorners() && (state == Drawing || state == Adjusting)) {
+        pixelWidth = PixelsBetween(corners[0].x, corners[2].x, figure.fitted.width, video.width);
+        pixelHeight = PixelsBetween(corners[0].y, corners[2].y, figure.fitted.height, video.height);
     }
 }
 
-void CPixelCountShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
-    const ColorF& colour = look.selColour;
-    if (look.points.size() == CornerCount) {
-        const PointF& topLeft = look.points[0];
-        const PointF& bottomRight = look.points[2];
-        const PointF at{(topLeft.x + bottomRight.x) / 2.0F + TextOffset.x,
-                        (topLeft.y + bottomRight.y) / 2.0F + TextOffset.y};
+void CPixelCountShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    const ColorF& colour = look.style.selColor;
+    const Points& corners = look.Path();
+    if (corners.size() == CornerCount) {
+        const PointF at{(corners[0].x + corners[2].x) / 2.0F + TextOffset.x,
+                        (corners[0].y + corners[2].y) / 2.0F + TextOffset.y};
         const std::string size = std::to_string(pixelWidth) + "*" + std::to_string(pixelHeight);
-        DrawCaptionAt(at, look.Text(colour, look.textStyle.size), size, surface);
-        surface.DrawRectangle(&topLeft, &bottomRight, OutlineWidth, &colour, PatternedPen);
+        DrawCaptionAt(at, look.Text(colour, look.style.textStyle.fontSize), size, pass.surface);
+        pass.surface.DrawRectangle(&corners[0], &corners[2], OutlineWidth, &colour, PatternedPen);
     }
     if (look.handles) {
-        DrawAdjustBoxes(look.points, surface, colour);
+        DrawAdjustBoxes(corners, pass.surface, colour);
     }
 }
 

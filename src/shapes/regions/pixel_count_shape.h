@@ -8,30 +8,29 @@ namespace rulecanvas {
 ///
 /// Its configuration is that size. A configured rectangle gets its corners, in the middle of the view, by the first
 /// paint that knows how large view and video are; one that is drawn or resized is measured by every paint.
-class CPixelCountShape : public CRectangleShape {
+class CPixelCountShape final : public CRectangleShape {
   public:
     CPixelCountShape();
 
-    bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
-    bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
-    void ClearShape() override;
-
   protected:
-    void PrepareToDraw() override;
-    void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
+    void Forget() override;
+    void ReadWord(const char* /*option*/) override {}
+    Refused Load(Loading& loading) override;
+    Json::Value WriteGeometry(const Points& points, const ViewSize& view) const override;
+    bool WritesPlaces() const override { return false; }
+    bool FitToPaint(const PaintPass& pass) override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
 
   private:
-    bool LoadSize(const char* shapeData);
-    void TakeOverVideoSize();
-    void Place(const ViewSize& display);
-    void Measure(const ViewSize& display);
+    void Place(const ClientRect& painted, const ClientRect& viewZero);
+    void Measure();
 
-    std::atomic<int> pixelWidth{0};
-    std::atomic<int> pixelHeight{0};
-    /// The video's resolution as it was when a paint first knew it; used by the paint alone.
+    int pixelWidth = 0;
+    int pixelHeight = 0;
+    /// The video's resolution as it was when a paint first knew it.
     ViewSize video;
     /// The configured size waits for its corners.
-    std::atomic<bool> placePending{false};
+    bool placePending = false;
 };
 
 } // namespace rulecanvas

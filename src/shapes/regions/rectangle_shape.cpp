@@ -1,8 +1,7 @@
 #include "shapes/regions/rectangle_shape.h"
 
+#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
-#include "shape/geometry.h"
-#include "shape/json_text.h"
 #include "shape/point_json.h"
 #include "shape/shape_factory.h"
 #include "shape/text.h"
@@ -11,25 +10,28 @@
 #include <algorithm>
 
 namespace rulecanvas {
+
+using platform::LockGuard;
+
 namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("Rect", &MakeShape<CRectangleShape>);
 
 constexpr int RectangleType = 5;
+constexpr Effect FinishDrawn[] = {Effect::StopListening, Effect::GiveMouse, Effect::TellCreation, Effect::TellState};
 
-int OppositeCorner(int corner) {
-    return corner < 2 ? corner + 2 : corner - 2;
+size_t OppositeCorner(int corner) {
+    return static_cast<size_t>(corner < 2 ? corner + 2 : corner - 2);
 }
 
 } // namespace
 
 CRectangleShape::CRectangleShape() {
     shapeType = RectangleType;
-    DragPointsHook =
-        decltype(DragPointsHook)::Bind<&CVideoAnalyseShape::BuildDragPoints>(static_cast<CVideoAnalyseShape*>(this));
 }
 
 CVideoAnalyseShape* CRectangleShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    LockGuard guard(lock);
     if (state == Complete) {
         HitTestComplete(PositionOf(event), hitLevel);
     } else if (state != Deleted) {
@@ -42,6 +44,7 @@ CVideoAnalyseShape* CRectangleShape::HitTestRButtonDown(const ContainerMouseEven
     if (!enableRBtnDelete) {
         return nullptr;
     }
+    LockGuard guard(lock);
     if (state == Complete) {
         HitTestComplete(PositionOf(event), hitLevel);
     }
@@ -49,118 +52,97 @@ CVideoAnalyseShape* CRectangleShape::HitTestRButtonDown(const ContainerMouseEven
 }
 
 void CRectangleShape::HitTestComplete(const PointF& press, int& hitLevel) const {
-    const Points corners = CopyPoints();
-    if (OnRing(corners, press)) {
+    if (OnRing(figure.points, press)) {
         hitLevel = OnOutline;
-    } else if (InPolygon(corners, press)) {
+    } else if (InPolygon(figure.points, press)) {
         hitLevel = Inside;
     } else if (selected) {
         hitLevel = Outside;
     }
 }
 
+/// Beside it only a selected rectangle answers, and selected shapes are asked everywhere.
+Claim CRectangleShape::CompleteClaim() const {
+    return Claim::Around(figure.points, HitReach, false);
+}
+
 void CRectangleShape::HandleRButtonEvent(const ContainerMouseEvent& /*event*/, int hitLevel) {
     DeleteByRightButton(hitLevel);
 }
 
-void CRectangleShape::GetShapePoints(Points& out) const {
-    AppendPointsTo(out);
-}
-
-void CRectangleShape::StartDrawing(const PointF& press) {
-    if (AcceptsPoint(press) && state == Waiting) {
-        SetAnchorPoint(press);
-        BeginGesture(Drawing);
+Outcome CRectangleShape::StartDrawing(const PointerEvent& press) {
+    if (!AcceptsPoint(press.position, press.view)) {
+        return {};
     }
+    figure.anchorPoint = press.position;
+    return Begin(Drawing);
 }
 
-void CRectangleShape::StartEditing(const PointF& press, int /*hitLevel*/) {
-    const Points corners = CopyPoints();
-    grabbedIndex = VertexIndex(corners, press);
-    if (grabbedIndex >= 0) {
-        SetAnchorPoint(corners.at(static_cast<size_t>(OppositeCorner(grabbedIndex))));
-        Grab(Adjusting);
-    } else if (InPolygon(corners, press)) {
-        SetAnchorPoint(press);
-        Grab(Moving);
+Outcome CRectangleShape::DrawTo(const PointerEvent& position) {
+    return AdjustTo(position);
+}
+
+Outcome CRectangleShape::EndDrawing(const PointerEvent& event) {
+    const PointF release = WholePixels(event.position);
+    if (!DragCoversCropLimit(release) || !AcceptsPoint(release, event.view)) {
+        return {};
     }
-}
-
-bool CRectangleShape::OnMouseMove(const PointF& position) {
-    const PointF clamped = ClampToView(anchorPoint, position);
-    switch (state) {
-    case Drawing:
-    case Adjusting:
-        RebuildFromAnchor(clamped);
-        break;
-    case Moving:
-        FollowMouse(clamped);
-        break;
-    default:
-        break;
+    if (release == figure.anchorPoint || !DragPoint(figure.grabbedIndex, release, event.view)) {
+        return {Waiting, effects::LetGo}; // with the corners that the drag had reached, until others replace them
     }
-    return true;
+    return {Complete, FinishDrawn};
 }
 
-bool CRectangleShape::OnButtonUp(const PointF& position, const ContainerMouseEvent& event) {
-    const PointF release = WholePixels(position);
-    switch (state) {
-    case Drawing:
-        return DragCoversCropLimit(release) && AcceptsPoint(release) && FinishDrawing(release, event);
-    case Moving:
-        return MoveCoversCropLimit(release) && FinishGesture();
-    case Adjusting:
-        return DragCoversCropLimit(release) && FinishGesture();
-    default:
-        return true;
+Outcome CRectangleShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
+    figure.grabbedIndex = VertexIndex(figure.points, press.position);
+    if (figure.grabbedIndex >= 0) {
+        figure.anchorPoint = figure.points.at(OppositeCorner(figure.grabbedIndex));
+        return Grab(Adjusting);
     }
-}
-
-bool CRectangleShape::FinishDrawing(const PointF& release, const ContainerMouseEvent& event) {
-    if (state != Drawing || !EndGesture()) {
-        return false; // the host answered a question of this step by ending the drawing
+    if (InPolygon(figure.points, press.position)) {
+        figure.anchorPoint = press.position;
+        return Grab(Moving);
     }
-    if (release == anchorPoint || !RebuildFromAnchor(release)) {
-        state = Waiting; // with the corners that the drag had reached, until another drawing replaces them
-        return false;
-    }
-    CreationFinishedHook(event);
-    return BecomeComplete();
+    return {};
 }
 
-bool CRectangleShape::RebuildFromAnchor(const PointF& opposite) {
-    return EditPoints([&](Points& corners) { return DragPointsHook(grabbedIndex, opposite, corners); });
+Outcome CRectangleShape::AdjustTo(const PointerEvent& position) {
+    DragPoint(figure.grabbedIndex, position.ClampedFrom(figure.anchorPoint), position.view);
+    return {};
 }
 
-bool CRectangleShape::BuildDragPoints(int /*index*/, const PointF& current, Points& out) {
-    return BuildFromTwoPoints(anchorPoint, current, out);
+Outcome CRectangleShape::EndMove(const PointerEvent& release) {
+    return MoveCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
 }
 
-bool CRectangleShape::BuildFromTwoPoints(const PointF& first, const PointF& second, Points& out) const {
-    const ClientRect view = ViewRect();
-    const ClientRect rect = SpanRectangle(first, second, view).rect;
-    const ViewSize size = SizeOf(rect);
-    if (!SizeOf(view).Known() || size.width < minimumSide || size.height < minimumSide) {
-        return false;
-    }
-    out = CornersOf(rect);
-    return true;
+Outcome CRectangleShape::EndAdjust(const PointerEvent& release) {
+    return DragCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
+}
+
+bool CRectangleShape::DragPoint(int /*index*/, const PointF& to, const ClientRect& view) {
+    return SpanCorners(figure.anchorPoint, to, view, minimumSide);
 }
 
 void CRectangleShape::SetShapePoints(Points newPoints) {
-    if (newPoints.size() == PointCount()) {
-        ReplacePoints(std::move(newPoints));
+    LockGuard guard(lock);
+    if (newPoints.size() == figure.points.size()) {
+        figure.points = std::move(newPoints);
     }
+    MarkClaimStale();
 }
 
 void CRectangleShape::PlaceAt(const PointF& centre, int width, int height) {
-    const int halfWidth = width / 2;
-    const int halfHeight = height / 2;
-    const PointF half{static_cast<float>(halfWidth), static_cast<float>(halfHeight)};
-    SetAnchorPoint(PointF{centre.x - half.x, centre.y - half.y});
-    if (RebuildFromAnchor(PointF{centre.x + half.x, centre.y + half.y})) {
-        state = Complete;
+    const ClientRect view = ViewRect();
+    const auto halfWidth = static_cast<float>(width / 2);   // NOLINT(bugprone-integer-division): whole pixels
+    const auto halfHeight = static_cast<float>(height / 2); // NOLINT(bugprone-integer-division)
+    {
+        LockGuard guard(lock);
+        figure.anchorPoint = Shifted(centre, -halfWidth, -halfHeight);
+        if (SpanCorners(figure.anchorPoint, Shifted(centre, halfWidth, halfHeight), view, minimumSide)) {
+            Enter(Complete);
+        }
     }
+    MarkClaimStale();
     RegisterDraw();
 }
 
@@ -173,72 +155,51 @@ bool CRectangleShape::CoversCropLimit(const PointF& topLeft, const PointF& botto
 }
 
 bool CRectangleShape::DragCoversCropLimit(const PointF& release) const {
-    return CoversCropLimit(PointF{std::min(anchorPoint.x, release.x), std::min(anchorPoint.y, release.y)},
-                           PointF{std::max(anchorPoint.x, release.x), std::max(anchorPoint.y, release.y)});
+    const PointF& anchor = figure.anchorPoint;
+    return CoversCropLimit(PointF{std::min(anchor.x, release.x), std::min(anchor.y, release.y)},
+                           PointF{std::max(anchor.x, release.x), std::max(anchor.y, release.y)});
 }
 
 bool CRectangleShape::MoveCoversCropLimit(const PointF& release) const {
-    const float dx = static_cast<float>(TruncateToInt(release.x - anchorPoint.x));
-    const float dy = static_cast<float>(TruncateToInt(release.y - anchorPoint.y));
-    const Points moved = Moved(CopyPoints(), dx, dy);
-    return moved.size() != CornerCount || CoversCropLimit(moved[0], moved[2]);
+    const auto dx = static_cast<float>(TruncateToInt(release.x - figure.anchorPoint.x));
+    const auto dy = static_cast<float>(TruncateToInt(release.y - figure.anchorPoint.y));
+    return !HasCorners() || CoversCropLimit(Shifted(figure.points[0], dx, dy), Shifted(figure.points[2], dx, dy));
 }
 
-bool CRectangleShape::SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) {
-    ParseStyleConfig(styleOrMode);
-    BeginConfiguration(shapeName);
-    textOnly = textOnly || IsWord(styleOrMode, "TextOnly");
-    enableRBtnDelete = enableRBtnDelete || IsWord(styleOrMode, "EnableRBtnDelete");
-    if (!IsEmpty(shapeData) && !LoadCorners(shapeData)) {
-        return false;
+void CRectangleShape::ReadWord(const char* option) {
+    textOnly = textOnly || IsWord(option, "TextOnly");
+    enableRBtnDelete = enableRBtnDelete || IsWord(option, "EnableRBtnDelete");
+}
+
+Refused CRectangleShape::Load(Loading& loading) {
+    if (!IsArrayOf(loading.geometry, 2)) {
+        return loading.Refuse("an array of 2 corners");
     }
-    RegisterDraw();
-    return true;
-}
-
-bool CRectangleShape::LoadCorners(const char* shapeData) {
-    Json::Value root;
-    if (!ParseJson(shapeData, root)) {
-        return false;
+    const PointF first = ReadRealPoint(loading.geometry[0], figure.fitted);
+    const PointF second = ReadRealPoint(loading.geometry[1], figure.fitted);
+    figure.anchorPoint = first;
+    if (SpanCorners(first, second, loading.view, minimumSide)) {
+        Enter(Complete);
     }
-    const Json::Value& corners = MemberOf(root, name);
-    if (!IsArrayOf(corners, 2)) {
-        return false;
-    }
-    const ViewSize view = KnownViewSize();
-    const PointF first = ReadRealPoint(corners[0], view);
-    const PointF second = ReadRealPoint(corners[1], view);
-    SetAnchorPoint(first);
-    if (RebuildFromAnchor(second)) {
-        state = Complete;
-    }
-    return true;
+    return std::nullopt;
 }
 
-bool CRectangleShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const auto [corners, view] = CopyFitted();
-    return corners.size() >= CornerCount &&
-           CopyText(PointsText(name, Truncated({corners[0], corners[2]}), view), buffer, size);
-}
-
-float CRectangleShape::OutlineThickness(const ShapeLook& look) const {
-    return penStyle == PatternedPen ? 1.0F : look.Thickness();
-}
-
-void CRectangleShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
-    if (look.points.size() != CornerCount) {
+void CRectangleShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    const Points& corners = look.Path();
+    if (corners.size() != CornerCount) {
         return;
     }
-    const ColorF colour = look.Colour();
-    DrawCaptionAt(look.points[0], look.Text(colour, FigureCaptionSize), look.caption, surface);
+    const ColorF& colour = look.Colour();
+    const float thickness = look.style.penStyle == PatternedPen ? 1.0F : look.Thickness();
+    DrawCaptionAt(corners[0], look.Text(colour, FigureCaptionSize), look.caption, pass.surface);
     if (!textOnly) {
-        surface.DrawRectangle(&look.points[0], &look.points[2], OutlineThickness(look), &colour, penStyle);
+        pass.surface.DrawRectangle(&corners[0], &corners[2], thickness, &colour, look.style.penStyle);
     }
-    if (mosaicEnable) {
-        DrawMosaic(look.points[0], look.points[2], mosaicSize, look.size, surface);
+    if (look.style.mosaicEnable) {
+        DrawMosaic(corners[0], corners[2], look.style.mosaicSize, look.figure.fitted, pass.surface);
     }
     if (look.handles && !textOnly) {
-        DrawAdjustBoxes(look.points, surface, colour);
+        DrawAdjustBoxes(corners, pass.surface, colour);
     }
 }
 

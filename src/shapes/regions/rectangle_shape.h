@@ -1,27 +1,23 @@
 #pragma once
 
-#include "shape/gesture_shape.h"
+#include "shapes/regions/box_shape.h"
 
 namespace rulecanvas {
 
-/// An axis-parallel rectangle, drawn by dragging from one corner to the opposite one.
+/// An axis-parallel rectangle with whole-pixel corners.
 ///
-/// It has no corners, or four whole-pixel ones: top left, top right, bottom right, bottom left. `anchorPoint` is the
-/// fixed opposite corner while it is drawn or resized, and the last accepted mouse position while it is moved.
-class CRectangleShape : public CGestureShape {
+/// `anchorPoint` is the fixed opposite corner while it is drawn or resized, and the last accepted mouse position while
+/// it is moved.
+class CRectangleShape : public CBoxShape {
   public:
     CRectangleShape();
 
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
-    /// Appends the corners.
-    void GetShapePoints(Points& out) const override;
-    bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
-    bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
-    /// The corners between the anchor and `current`; false when they lie too close together.
-    bool BuildDragPoints(int index, const PointF& current, Points& out) override;
     void SetShapePoints(Points newPoints) override;
+
+    // For a figure that owns this one; none of this version does.
 
     /// Makes the rectangle complete round a centre, unless it would be too small.
     void PlaceAt(const PointF& centre, int width, int height);
@@ -29,27 +25,29 @@ class CRectangleShape : public CGestureShape {
     void SetCropLimit(const ClientRect& limit) { cropLimit = limit; }
 
   protected:
-    static constexpr size_t CornerCount = 4;
+    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
+    Outcome EndMove(const PointerEvent& release) override;
+    Outcome AdjustTo(const PointerEvent& position) override;
+    Outcome EndAdjust(const PointerEvent& release) override;
+    /// The corners between the anchor and the dragged one.
+    bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
 
-    void StartDrawing(const PointF& press) override;
-    void StartEditing(const PointF& press, int hitLevel) override;
-    bool OnMouseMove(const PointF& position) override;
-    bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
-    void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
+    void ReadWord(const char* option) override;
+    Refused Load(Loading& loading) override;
+    Claim CompleteClaim() const override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
 
-    bool BuildFromTwoPoints(const PointF& first, const PointF& second, Points& out) const;
-
+    /// Pixels.
     int minimumSide = 10;
 
   private:
     void HitTestComplete(const PointF& press, int& hitLevel) const;
-    bool RebuildFromAnchor(const PointF& opposite);
-    bool FinishDrawing(const PointF& release, const ContainerMouseEvent& event);
-    bool LoadCorners(const char* shapeData);
     bool CoversCropLimit(const PointF& topLeft, const PointF& bottomRight) const;
     bool DragCoversCropLimit(const PointF& release) const;
     bool MoveCoversCropLimit(const PointF& release) const;
-    float OutlineThickness(const ShapeLook& look) const;
 
     ClientRect cropLimit{-1, -1, -1, -1};
     bool textOnly = false;

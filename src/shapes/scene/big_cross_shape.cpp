@@ -1,8 +1,7 @@
 #include "shapes/scene/big_cross_shape.h"
 
+#include "geometry/grid.h"
 #include "shape/drawing.h"
-#include "shape/geometry.h"
-#include "shape/grid.h"
 #include "shape/shape_factory.h"
 
 namespace rulecanvas {
@@ -35,11 +34,11 @@ int Beside(int line, int offset) {
 
 void DrawCrossHair(const PointF& cross, const ShapeLook& look, IContainerGraphics& surface) {
     const float width = look.SelectedThickness();
-    const ColorF& colour = look.selColour;
+    const ColorF& colour = look.style.selColor;
     const PointF left{0.0F, cross.y};
-    const PointF right{static_cast<float>(look.size.width), cross.y};
+    const PointF right{static_cast<float>(look.figure.fitted.width), cross.y};
     const PointF top{cross.x, 0.0F};
-    const PointF bottom{cross.x, static_cast<float>(look.size.height)};
+    const PointF bottom{cross.x, static_cast<float>(look.figure.fitted.height)};
     const PointF dotTopLeft{cross.x - DotHalfSide, cross.y - DotHalfSide};
     const PointF dotBottomRight{cross.x + DotHalfSide, cross.y + DotHalfSide};
     surface.DrawLine(&left, &right, width, &colour, SolidPen);
@@ -49,37 +48,39 @@ void DrawCrossHair(const PointF& cross, const ShapeLook& look, IContainerGraphic
 
 } // namespace
 
-void CBigCrossShape::StartEditing(const PointF& /*press*/, int hitLevel) {
-    if (hitLevel == OnOutline) {
-        BeginGesture(Adjusting);
-    }
+Outcome CBigCrossShape::StartEditing(const PointerEvent& /*press*/, int hitLevel) {
+    return hitLevel == OnOutline ? Begin(Adjusting) : Outcome{};
 }
 
-bool CBigCrossShape::DragCross(const PointF& position) {
-    MoveCrossInView(GrabbedCross(), position);
-    return true;
+void CBigCrossShape::DragCross(PointF& cross, const PointerEvent& position) {
+    cross = position.ClampedFrom(cross);
 }
 
-void CBigCrossShape::DropCross(const PointF& position) {
-    MoveCross(GrabbedCross(), position);
+/// Where the mouse is, be it outside the view.
+void CBigCrossShape::DropCross(PointF& cross, const PointerEvent& release) {
+    cross = release.position;
 }
 
-bool CBigCrossShape::ReadCrosses(const Json::Value& member, const ViewSize& view, Points& crosses) {
+/// Bands that are missing, and borders that are missing in one, count as zeros.
+Points CBigCrossShape::ReadCrosses(const Json::Value& member) {
+    Points crosses;
     if (member.isNull()) {
-        return true;
+        return crosses;
     }
-    constexpr Json::ArrayIndex bandCount = 2 * CrossHairs; // bands that are missing count as zeros
-    for (Json::ArrayIndex i = 0; i < bandCount; i += 2) {
+    for (Json::ArrayIndex i = 0; i < 2 * CrossHairs; i += 2) {
         const double y = MiddleOf(member[i], Top);
         const double x = MiddleOf(member[i + 1], Left);
-        crosses.push_back(ToPixels(x, y, view));
+        crosses.push_back(ToPixels(x, y, figure.fitted));
     }
-    return true;
+    return crosses;
 }
 
-Json::Value CBigCrossShape::WriteCrosses(const Points& crosses, const ViewSize& view) const {
-    Json::Value bands(Json::arrayValue);
-    for (const PointF& cross : crosses) {
+Json::Value CBigCrossShape::WriteGeometry(const Points& points, const ViewSize& view) const {
+    Json::Value bands;
+    if (points.size() != CrossHairs) {
+        return bands;
+    }
+    for (const PointF& cross : points) {
         const GridPoint grid = ToGrid(cross, view);
         bands.append(Band(0, Beside(grid.y, -BandHalfWidth), GridSpan, Beside(grid.y, BandHalfWidth)));
         bands.append(Band(Beside(grid.x, -BandHalfWidth), 0, Beside(grid.x, BandHalfWidth), GridSpan));
@@ -87,9 +88,9 @@ Json::Value CBigCrossShape::WriteCrosses(const Points& crosses, const ViewSize& 
     return bands;
 }
 
-void CBigCrossShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
-    for (const PointF& cross : look.points) {
-        DrawCrossHair(cross, look, surface);
+void CBigCrossShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    for (const PointF& cross : look.Path()) {
+        DrawCrossHair(cross, look, pass.surface);
     }
 }
 

@@ -8,15 +8,15 @@ namespace rulecanvas {
 ///
 /// A configuration gives every cross-hair as two thin bands of the grid, one along each line; the cross-hair runs in
 /// the middle of the band, one unit beside its border.
-class CBigCrossShape : public CPlacedCrosses {
+class CBigCrossShape final : public CPlacedCrosses {
   protected:
     int Maximum() const override { return CrossHairs; }
-    void StartEditing(const PointF& press, int hitLevel) override;
-    bool DragCross(const PointF& position) override;
-    void DropCross(const PointF& position) override;
-    bool ReadCrosses(const Json::Value& member, const ViewSize& view, Points& crosses) override;
-    Json::Value WriteCrosses(const Points& crosses, const ViewSize& view) const override;
-    void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
+    Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
+    void DragCross(PointF& cross, const PointerEvent& position) override;
+    void DropCross(PointF& cross, const PointerEvent& release) override;
+    Points ReadCrosses(const Json::Value& member) override;
+    Json::Value WriteGeometry(const Points& points, const ViewSize& view) const override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
 
   private:
     static constexpr int CrossHairs = 2;

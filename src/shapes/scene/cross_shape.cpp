@@ -1,7 +1,6 @@
 #include "shapes/scene/cross_shape.h"
 
 #include "shape/drawing.h"
-#include "shape/geometry.h"
 #include "shape/point_json.h"
 #include "shape/shape_factory.h"
 #include "shape/text.h"
@@ -13,6 +12,7 @@ namespace {
 
 const bool registered = CShapeFactory::GetInstance().Register("CrossShape", &MakeShape<CCrossShape>);
 
+/// More than a user would click.
 constexpr long MostCrosses = 1024;
 constexpr float CaptionSize = 24.0F;
 
@@ -21,7 +21,7 @@ constexpr float CaptionSize = 24.0F;
 constexpr float LongArm = 6.0F;
 constexpr float ShortArm = 5.0F;
 
-/// The number in a mode word; 1 for none and for one that no user would click.
+/// The number in a mode word; 1 for none and for one beyond the limit.
 int MaximumFrom(const char* word) {
     constexpr int decimal = 10;
     const long number = IsEmpty(word) ? 1 : std::strtol(word, nullptr, decimal);
@@ -39,14 +39,15 @@ void DrawCross(const PointF& cross, float width, const ColorF& colour, IContaine
 
 /// At the first cross, and on its other side where the text would leave the picture.
 void DrawCaption(const ShapeLook& look, IContainerGraphics& surface) {
-    const TextStyle style = look.Text(look.selColour, CaptionSize);
+    const TextStyle style = look.Text(look.style.selColor, CaptionSize);
     const float width = surface.MeasureText(style, look.caption.c_str());
     const float height = surface.MeasureTextHeight(style, look.caption.c_str());
-    PointF at = WholePixels(look.points.front());
-    if (at.x + width > static_cast<float>(look.size.width)) {
+    const ViewSize& view = look.figure.fitted;
+    PointF at = WholePixels(look.Path().front());
+    if (at.x + width > static_cast<float>(view.width)) {
         at.x -= width;
     }
-    if (at.y + height > static_cast<float>(look.size.height)) {
+    if (at.y + height > static_cast<float>(view.height)) {
         at.y -= height;
     }
     DrawCaptionAt(at, style, look.caption, surface);
@@ -58,51 +59,56 @@ CCrossShape::CCrossShape() {
     maxPtNum = 1;
 }
 
-bool CCrossShape::SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) {
-    maxPtNum = MaximumFrom(styleOrMode);
-    return CPlacedCrosses::SetVideoAnalyseShapeData(shapeName, shapeData, styleOrMode);
+void CCrossShape::ReadWord(const char* option) {
+    maxPtNum = MaximumFrom(option);
 }
 
 int CCrossShape::CrossAt(const PointF& press) const {
-    return Maximum() == 1 && PointCount() > 0 ? 0 : CPlacedCrosses::CrossAt(press);
+    return IsSingle() ? 0 : CPlacedCrosses::CrossAt(press);
 }
 
-void CCrossShape::StartEditing(const PointF& press, int /*hitLevel*/) {
-    if (AcceptsPoint(press) && MoveCross(GrabbedCross(), press)) {
-        BeginGesture(Adjusting);
+Claim CCrossShape::CompleteClaim() const {
+    return IsSingle() ? Claim::Everywhere() : CPlacedCrosses::CompleteClaim();
+}
+
+Outcome CCrossShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
+    PointF* cross = GrabbedCross();
+    if (cross == nullptr || !AcceptsPoint(press.position, press.view)) {
+        return {};
     }
+    *cross = press.position;
+    return Begin(Adjusting);
 }
 
-bool CCrossShape::DragCross(const PointF& position) {
-    return AcceptsPoint(position) && MoveCross(GrabbedCross(), position);
+void CCrossShape::DragCross(PointF& cross, const PointerEvent& position) {
+    if (AcceptsPoint(position.position, position.view)) {
+        cross = position.position;
+    }
 }
 
 /// A configuration without the member still makes as many crosses as were asked for, all in the top left corner, from
 /// where the user drags them.
-bool CCrossShape::ReadCrosses(const Json::Value& member, const ViewSize& view, Points& crosses) {
+Points CCrossShape::ReadCrosses(const Json::Value& member) {
     if (!member.isNull()) {
         maxPtNum = static_cast<int>(member.size());
     }
+    Points crosses;
     for (int i = 0; i < maxPtNum; ++i) {
-        crosses.push_back(ReadPoint(member[i], view));
+        crosses.push_back(ReadPoint(member[i], figure.fitted));
     }
-    return true;
+    return crosses;
 }
 
-Json::Value CCrossShape::WriteCrosses(const Points& crosses, const ViewSize& view) const {
-    Json::Value array(Json::arrayValue);
-    for (const PointF& cross : Truncated(crosses)) {
-        array.append(WritePoint(cross, view));
-    }
-    return array;
+Json::Value CCrossShape::WriteGeometry(const Points& points, const ViewSize& view) const {
+    return static_cast<int>(points.size()) == maxPtNum ? WritePoints(Truncated(points), view) : Json::Value();
 }
 
-void CCrossShape::Draw(const ShapeLook& look, IContainerGraphics& surface) {
-    for (const PointF& cross : look.points) {
-        DrawCross(cross, look.SelectedThickness(), look.selColour, surface);
+void CCrossShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    for (const PointF& cross : look.Path()) {
+        DrawCross(cross, look.SelectedThickness(), look.style.selColor, pass.surface);
     }
-    if (!look.points.empty() && !look.caption.empty()) {
-        DrawCaption(look, surface);
+    if (!look.Path().empty() && !look.caption.empty()) {
+        DrawCaption(look, pass.surface);
     }
 }
 

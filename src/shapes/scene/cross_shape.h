@@ -7,22 +7,25 @@ namespace rulecanvas {
 /// Small crosses, one unless the mode word, the configuration or the host asks for more, with the caption at the first.
 ///
 /// A single cross needs no aim: a press anywhere in the view takes it there.
-class CCrossShape : public CPlacedCrosses {
+class CCrossShape final : public CPlacedCrosses {
   public:
     CCrossShape();
-
-    /// The mode word is the number of crosses.
-    bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
 
   protected:
     int Maximum() const override { return maxPtNum; }
     int CrossAt(const PointF& press) const override;
-    void StartEditing(const PointF& press, int hitLevel) override;
-    bool DragCross(const PointF& position) override;
-    void DropCross(const PointF& /*position*/) override {}
-    bool ReadCrosses(const Json::Value& member, const ViewSize& view, Points& crosses) override;
-    Json::Value WriteCrosses(const Points& crosses, const ViewSize& view) const override;
-    void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
+    Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
+    void DragCross(PointF& cross, const PointerEvent& position) override;
+    void DropCross(PointF& /*cross*/, const PointerEvent& /*release*/) override {}
+    /// The number of crosses.
+    void ReadWord(const char* option) override;
+    Points ReadCrosses(const Json::Value& member) override;
+    Json::Value WriteGeometry(const Points& points, const ViewSize& view) const override;
+    Claim CompleteClaim() const override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+
+  private:
+    bool IsSingle() const { return Maximum() == 1 && !figure.points.empty(); }
 };
 
 } // namespace rulecanvas

@@ -1,15 +1,12 @@
 #include "shapes/scene/placed_crosses.h"
 
-#include "shape/geometry.h"
-#include "shape/json_text.h"
-#include "shape/text.h"
-
-#include <algorithm>
+#include "geometry/hit_tests.h"
 
 namespace rulecanvas {
 namespace {
 
 constexpr double HitBoxHalfSide = 5.0;
+constexpr Effect FinishKeepingMouse[] = {Effect::TellState, Effect::StopListening};
 
 ClientRect HitBoxOf(const PointF& cross) {
     return ClientRect{TruncateToInt(cross.x - HitBoxHalfSide), TruncateToInt(cross.y - HitBoxHalfSide),
@@ -19,19 +16,18 @@ ClientRect HitBoxOf(const PointF& cross) {
 } // namespace
 
 CVideoAnalyseShape* CPlacedCrosses::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    if (state != Complete && state != Deleted) {
+    platform::LockGuard guard(lock);
+    if (state == Complete) {
+        figure.grabbedIndex = CrossAt(PositionOf(event));
+        hitLevel = figure.grabbedIndex < 0 ? hitLevel : OnOutline;
+    } else if (state != Deleted) {
         hitLevel = Busy;
-    } else if (state == Complete) {
-        grabbedIndex = CrossAt(PositionOf(event));
-        if (grabbedIndex >= 0) {
-            hitLevel = OnOutline;
-        }
     }
     return this;
 }
 
 int CPlacedCrosses::CrossAt(const PointF& press) const {
-    const Points crosses = CopyPoints();
+    const Points& crosses = figure.points;
     for (size_t i = 0; i < crosses.size() && static_cast<int>(i) < Maximum(); ++i) {
         if (InRectangle(HitBoxOf(crosses[i]), press)) {
             return static_cast<int>(i);
@@ -40,110 +36,73 @@ int CPlacedCrosses::CrossAt(const PointF& press) const {
     return -1;
 }
 
-void CPlacedCrosses::StartDrawing(const PointF& press) {
-    PlaceCross(press);
+Claim CPlacedCrosses::CompleteClaim() const {
+    return Claim::Around(figure.points, HitReach, false);
 }
 
-void CPlacedCrosses::ContinueDrawing(const PointF& press) {
-    PlaceCross(press);
+Outcome CPlacedCrosses::StartDrawing(const PointerEvent& press) {
+    return ContinueDrawing(press);
 }
 
-void CPlacedCrosses::PlaceCross(const PointF& press) {
-    if (!HasRoom() && !InGesture()) {
-        BecomeComplete(); // the host lowered the maximum between two clicks
-        return;
+Outcome CPlacedCrosses::ContinueDrawing(const PointerEvent& press) {
+    if (!HasRoom()) {
+        // the host lowered the maximum between two clicks
+        return IsListening() ? Outcome{} : Outcome{Complete, effects::Tell};
     }
-    const bool placed = EditPoints([&](Points& crosses) {
-        crosses.push_back(press);
-        return HasRoom() && AcceptsPoint(press);
-    });
-    if (placed) {
-        BeginGesture(Drawing);
+    if (!AcceptsPoint(press.position, press.view)) {
+        return {};
     }
+    figure.points.push_back(press.position);
+    return Begin(Drawing);
 }
 
 bool CPlacedCrosses::HasRoom() const {
-    const int count = static_cast<int>(PointCount());
+    const int count = static_cast<int>(figure.points.size());
     return count == 0 || count < Maximum();
 }
 
-bool CPlacedCrosses::OnMouseMove(const PointF& position) {
-    switch (state) {
-    case Drawing:
-        MoveCrossInView(LastCross(), position);
-        return true;
-    case Adjusting:
-        return DragCross(position);
-    default:
-        return true;
+Outcome CPlacedCrosses::DrawTo(const PointerEvent& position) {
+    if (!figure.points.empty()) {
+        PointF& last = figure.points.back();
+        last = position.ClampedFrom(last);
     }
+    return {};
 }
 
-bool CPlacedCrosses::OnButtonUp(const PointF& position, const ContainerMouseEvent& /*event*/) {
-    bool finished = false;
-    if (state == Drawing) {
-        MoveCross(LastCross(), position); // where the button was released, be it outside the view
-        finished = static_cast<int>(PointCount()) >= Maximum();
-    } else if (state == Adjusting) {
-        DropCross(position);
-        finished = true;
+/// The last cross stays where the button was released, be it outside the view.
+Outcome CPlacedCrosses::EndDrawing(const PointerEvent& release) {
+    if (!figure.points.empty()) {
+        figure.points.back() = release.position;
     }
-    if (finished && !BecomeComplete()) {
-        return false;
+    if (static_cast<int>(figure.points.size()) < Maximum()) {
+        return {std::nullopt, effects::StopListening};
     }
-    Unsubscribe();
-    return true;
+    return {Complete, FinishKeepingMouse};
 }
 
-bool CPlacedCrosses::MoveCross(size_t index, const PointF& position) {
-    return EditPoints([&](Points& crosses) {
-        if (index >= crosses.size()) {
-            return false;
-        }
-        crosses[index] = position;
-        return true;
-    });
-}
-
-bool CPlacedCrosses::MoveCrossInView(size_t index, const PointF& position) {
-    return EditPoints([&](Points& crosses) {
-        if (index >= crosses.size()) {
-            return false;
-        }
-        crosses[index] = ClampToView(crosses[index], position);
-        return true;
-    });
-}
-
-bool CPlacedCrosses::SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData,
-                                              const char* /*styleOrMode*/) {
-    BeginConfiguration(shapeName);
-    if (!IsEmpty(shapeData) && !LoadCrosses(shapeData)) {
-        return false;
+Outcome CPlacedCrosses::AdjustTo(const PointerEvent& position) {
+    if (PointF* cross = GrabbedCross()) {
+        DragCross(*cross, position);
     }
-    RegisterDraw();
-    return true;
+    return {};
 }
 
-bool CPlacedCrosses::LoadCrosses(const char* shapeData) {
-    Json::Value root;
-    Points crosses;
-    if (!ParseJson(shapeData, root) || !ReadCrosses(MemberOf(root, name), KnownViewSize(), crosses)) {
-        return false;
+Outcome CPlacedCrosses::EndAdjust(const PointerEvent& release) {
+    if (PointF* cross = GrabbedCross()) {
+        DropCross(*cross, release);
     }
-    ReplacePoints(std::move(crosses));
-    state = Complete;
-    return true;
+    return {Complete, FinishKeepingMouse};
 }
 
-bool CPlacedCrosses::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
-    const auto [crosses, view] = CopyFitted();
-    if (static_cast<int>(crosses.size()) != Maximum()) {
-        return false;
-    }
-    Json::Value root;
-    root[name] = WriteCrosses(crosses, view);
-    return CopyTextUncounted(WriteJson(root), buffer, size);
+PointF* CPlacedCrosses::GrabbedCross() {
+    const auto index = static_cast<size_t>(figure.grabbedIndex);
+    return figure.grabbedIndex < 0 || index >= figure.points.size() ? nullptr : &figure.points[index];
+}
+
+Refused CPlacedCrosses::Load(Loading& loading) {
+    figure.points = ReadCrosses(loading.geometry);
+    Enter(Complete);
+    return std::nullopt;
 }
 
 } // namespace rulecanvas

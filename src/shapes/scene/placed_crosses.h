@@ -2,20 +2,17 @@
 
 #include "shape/gesture_shape.h"
 
-#include <json/value.h>
-
 namespace rulecanvas {
 
 /// Crosses that the user places with one click each, and then drags one at a time.
 ///
 /// The points are the crosses in placing order; `grabbedIndex` is the cross under the last press. Every click is a
 /// gesture of its own: the new cross follows the mouse until the button is released. Between two clicks the shape stays
-/// in the drawing state and listens to nothing. No gesture gives the mouse capture back; clearing or ending the shape does.
+/// in the drawing state and listens to nothing. No gesture gives the mouse capture back; clearing or ending the shape
+/// does.
 class CPlacedCrosses : public CGestureShape {
   public:
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
-    bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
-    bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
     bool AwaitsPaint() const override { return false; }
 
   protected:
@@ -23,28 +20,29 @@ class CPlacedCrosses : public CGestureShape {
     virtual int Maximum() const = 0;
     /// Index of the cross that a press on the complete shape hits, or -1.
     virtual int CrossAt(const PointF& press) const;
-    /// What a move and the release of the button do to a dragged cross. False: the move was not used.
-    virtual bool DragCross(const PointF& position) = 0;
-    virtual void DropCross(const PointF& position) = 0;
-    /// The crosses as the member of a configuration gives them, and back. False: refused.
-    virtual bool ReadCrosses(const Json::Value& member, const ViewSize& view, Points& crosses) = 0;
-    virtual Json::Value WriteCrosses(const Points& crosses, const ViewSize& view) const = 0;
+    /// What a move of a dragged cross and its release do.
+    virtual void DragCross(PointF& cross, const PointerEvent& position) = 0;
+    virtual void DropCross(PointF& cross, const PointerEvent& release) = 0;
+    /// The crosses as the member of a configuration gives them; null when it is missing.
+    virtual Points ReadCrosses(const Json::Value& member) = 0;
 
-    void StartDrawing(const PointF& press) override;
-    void ContinueDrawing(const PointF& press) override;
-    bool OnMouseMove(const PointF& position) override;
-    bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
+    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome ContinueDrawing(const PointerEvent& press) override;
+    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome AdjustTo(const PointerEvent& position) override;
+    Outcome EndAdjust(const PointerEvent& release) override;
 
-    /// False, with nothing changed, when there is no such cross.
-    bool MoveCross(size_t index, const PointF& position);
-    bool MoveCrossInView(size_t index, const PointF& position);
-    size_t GrabbedCross() const { return static_cast<size_t>(grabbedIndex); }
+    bool TakesStyle() const override { return false; }
+    Refused Load(Loading& loading) override;
+    CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
+    Claim CompleteClaim() const override;
+
+    /// The cross under the last press, or null.
+    PointF* GrabbedCross();
 
   private:
     bool HasRoom() const;
-    void PlaceCross(const PointF& press);
-    size_t LastCross() const { return PointCount() - 1; }
-    bool LoadCrosses(const char* shapeData);
 };
 
 } // namespace rulecanvas

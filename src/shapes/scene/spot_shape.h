@@ -8,30 +8,38 @@ namespace rulecanvas {
 /// the caption beside it.
 ///
 /// It has one point or none. `anchorPoint` is the last accepted mouse position while it is dragged.
-class CSpotShape : public CGestureShape {
+class CSpotShape final : public CGestureShape {
   public:
     CSpotShape();
 
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
-    /// The mode word "solid" fills the circle.
-    bool SetVideoAnalyseShapeData(const char* shapeName, const char* shapeData, const char* styleOrMode) override;
-    bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
-    /// The spot as it would stand at `current`.
-    bool BuildDragPoints(int index, const PointF& current, Points& out) override;
     bool AwaitsPaint() const override { return false; }
 
   protected:
-    void StartDrawing(const PointF& press) override;
-    void StartEditing(const PointF& press, int hitLevel) override;
-    bool OnMouseMove(const PointF& position) override;
-    bool OnButtonUp(const PointF& position, const ContainerMouseEvent& event) override;
+    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome DrawTo(const PointerEvent& /*position*/) override { return {}; }
+    Outcome EndDrawing(const PointerEvent& /*release*/) override { return {}; }
+    Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
+    /// The spot goes where the mouse is, as far as the view reaches.
+    bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
+
     void Dispose() override;
-    void Draw(const ShapeLook& look, IContainerGraphics& surface) override;
+    bool TakesStyle() const override { return false; }
+    /// "solid" fills the circle, and stays in force for later configurations that do not name it.
+    void ReadWord(const char* option) override;
+    Refused Load(Loading& loading) override;
+    Json::Value WriteGeometry(const Points& points, const ViewSize& view) const override;
+    CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
+    Claim CompleteClaim() const override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
 
   private:
     bool Covers(const PointF& press) const;
-    bool LoadSpot(const char* shapeData);
     void DrawCaption(const ShapeLook& look, IContainerGraphics& surface) const;
+
+    /// Pixels.
+    int radius = 5;
+    bool solid = false;
 };
 
 } // namespace rulecanvas

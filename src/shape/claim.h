@@ -1,0 +1,24 @@
+#pragma once
+
+#include "geometry/points.h"
+
+#include <limits>
+
+namespace rulecanvas {
+
+/// Where a shape may answer a press. It is asked itself only there: a claim may be too wide, never too narrow.
+struct Claim {
+    float left = 0.0F;
+    float top = 0.0F;
+    float right = 0.0F;
+    float bottom = 0.0F;
+    /// Beside these bounds the shape answers a left press, as one that lies outside.
+    bool answersOutside = false;
+
+    static Claim Nowhere();
+    static Claim Everywhere();
+    /// The bounds of the points and `reach` pixels more; everywhere when a point is no number.
+    static Claim Around(const Points& points, float reach, bool answersOutside);
+};
+
+} // namespace rulecanvas

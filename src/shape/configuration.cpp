@@ -1,0 +1,27 @@
+#include "shape/configuration.h"
+
+namespace rulecanvas {
+
+Refusal Loading::Refuse(const std::string& expected, const std::string& detail) const {
+    return Refusal{expected, Described(geometry), place + detail};
+}
+
+std::string Described(const Json::Value& value) {
+    const std::string count = std::to_string(value.size()) + (value.size() == 1 ? " element" : " elements");
+    switch (value.type()) {
+    case Json::nullValue:
+        return "nothing";
+    case Json::arrayValue:
+        return "an array of " + count;
+    case Json::objectValue:
+        return "an object of " + count;
+    case Json::stringValue:
+        return "a text";
+    case Json::booleanValue:
+        return "a boolean";
+    default:
+        return "a number";
+    }
+}
+
+} // namespace rulecanvas

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "shape/refusal.h"
+#include "shape/types.h"
+
+#include <json/value.h>
+
+#include <optional>
+
+namespace rulecanvas {
+
+/// What a shape is made of. Each text may be null.
+struct Configuration {
+    const char* shapeName;
+    const char* shapeData;
+    const char* styleOrMode;
+    /// The client rectangle of the shape's view.
+    ClientRect view;
+};
+
+/// A configuration text that is being read.
+struct Loading {
+    const Json::Value& root;
+    /// The member that holds the geometry; null when it is missing.
+    const Json::Value& geometry;
+    /// The client rectangle of the shape's view.
+    ClientRect view;
+    /// Where the geometry stands in the text.
+    std::string place;
+    /// Whether paints show the shape from now on.
+    bool isDrawn = true;
+
+    Refusal Refuse(const std::string& expected, const std::string& detail = "") const;
+};
+
+using Refused = std::optional<Refusal>;
+
+/// An array's or object's count of elements, or a word for another value; for people.
+std::string Described(const Json::Value& value);
+
+} // namespace rulecanvas

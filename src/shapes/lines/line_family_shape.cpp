@@ -1,0 +1,199 @@
+#include "shapes/lines/line_family_shape.h"
+
+#include "geometry/hit_tests.h"
+#include "shape/point_json.h"
+#include "shape/text.h"
+#include "shapes/lines/line_geometry.h"
+
+#include <algorithm>
+#include <array>
+
+namespace rulecanvas {
+
+using platform::LockGuard;
+
+namespace {
+
+constexpr int MinPointSpacing = 6;
+
+bool ReachesAcrossTheView(const std::string& name) {
+    constexpr std::array<const char*, 5> names{"DetectLine", "ForLine", "MiddleLine", "StopLine", "BackLine"};
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+} // namespace
+
+CVideoAnalyseShape* CLineFamilyShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    LockGuard guard(lock);
+    if (state == Complete) {
+        hitLevel = OnPath(figure.points, PositionOf(event)) ? OnOutline : Outside;
+    } else if (state != Deleted) {
+        hitLevel = Busy;
+    }
+    return this;
+}
+
+void CLineFamilyShape::RemoveSubShape(ShapeID /*id*/) {
+    ClearShape();
+}
+
+void CLineFamilyShape::Forget() {
+    CGestureShape::Forget();
+    figure.lastPoint = PointF{};
+}
+
+Outcome CLineFamilyShape::StartDrawing(const PointerEvent& press) {
+    if (!AcceptsPoint(press.position, press.view)) {
+        return {};
+    }
+    figure.points.assign(1, press.position);
+    if (!PassesValidation(figure.points, false)) {
+        figure.points.clear();
+        return {};
+    }
+    figure.lastPoint = press.position;
+    return Begin(Drawing);
+}
+
+Outcome CLineFamilyShape::DrawTo(const PointerEvent& position) {
+    if (!figure.points.empty()) {
+        figure.lastPoint = position.ClampedFrom(figure.points.front());
+    }
+    return {};
+}
+
+Outcome CLineFamilyShape::EndDrawing(const PointerEvent& event) {
+    const Points& path = figure.points;
+    if (path.empty() || path.size() >= MaximumPoints() || !event.HasView()) {
+        return {};
+    }
+    const PointF release = Released(event);
+    if (!IsWithinLimit(path.front(), release)) {
+        return StartOver();
+    }
+    if (!OfferPoint(release, event.view)) {
+        return {};
+    }
+    const bool complete = path.size() >= MaximumPoints();
+    if (!PassesValidation(path, complete)) {
+        return StartOver();
+    }
+    return complete ? Finish() : Outcome{};
+}
+
+/// Where a release offers a point: in the view, and level for a horizon.
+PointF CLineFamilyShape::Released(const PointerEvent& release) const {
+    PointF point = release.ClampedFrom(figure.points.front());
+    if (horizon || movedHLine) {
+        point.y = figure.points.front().y;
+    }
+    return point;
+}
+
+/// Appends the point unless it may not be there or is too near to the last one.
+bool CLineFamilyShape::OfferPoint(const PointF& point, const ClientRect& view) {
+    Points& path = figure.points;
+    const PointF next = path.size() == 1 ? Oriented(point, path.front()) : point;
+    if (!AcceptsPoint(next, view) || CloserThan(MinPointSpacing, path.back(), next)) {
+        return false;
+    }
+    path.push_back(next);
+    return true;
+}
+
+PointF CLineFamilyShape::Oriented(const PointF& point, const PointF& /*other*/) const {
+    return point;
+}
+
+bool CLineFamilyShape::IsWithinLimit(const PointF& /*first*/, const PointF& /*point*/) const {
+    return true;
+}
+
+Outcome CLineFamilyShape::StartEditing(const PointerEvent& press, int hitLevel) {
+    if (!style.canAdjust) {
+        return {};
+    }
+    figure.grabbedIndex = VertexIndex(figure.points, press.position);
+    if (figure.grabbedIndex >= 0) {
+        return Grab(Adjusting);
+    }
+    if (hitLevel == OnOutline) {
+        figure.anchorPoint = press.position;
+        return Grab(Moving);
+    }
+    return {};
+}
+
+/// A line that meets the border is let go.
+Outcome CLineFamilyShape::MoveTo(const PointerEvent& position) {
+    if (style.canMove && !FollowMouse(position.position, position.view)) {
+        return {Complete, effects::LetGo};
+    }
+    return {};
+}
+
+Outcome CLineFamilyShape::AdjustTo(const PointerEvent& position) {
+    AdjustEndpoint(position);
+    return {};
+}
+
+Outcome CLineFamilyShape::EndMove(const PointerEvent& release) {
+    return EndAdjust(release);
+}
+
+Outcome CLineFamilyShape::EndAdjust(const PointerEvent& release) {
+    AdjustEndpoint(release);
+    PassesValidation(figure.points, true); // an owner gets to see the final line; it stays whatever the answer
+    return Finish();
+}
+
+void CLineFamilyShape::AdjustEndpoint(const PointerEvent& position) {
+    Points& path = figure.points;
+    if (!style.canAdjust || movedHLine || !position.HasView() ||
+        !DragPoint(figure.grabbedIndex, position.position, position.view)) {
+        return;
+    }
+    if (horizon && path.size() >= LinePoints) {
+        path[1].y = path[0].y;
+    }
+}
+
+bool CLineFamilyShape::MovePoints(float dx, float dy, const ClientRect& view) {
+    return CGestureShape::MovePoints(horizon || movedHLine ? 0.0F : dx, dy, view);
+}
+
+void CLineFamilyShape::ReadWord(const char* option) {
+    horizon = horizon || IsWord(option, "Horizon") || name == "Horizon";
+    movedHLine = movedHLine || IsWord(option, "MovedHLine") || name == "MovedHLine";
+}
+
+void CLineFamilyShape::SetShapePoints(Points newPoints) {
+    if (newPoints.size() == LinePoints) {
+        LockGuard guard(lock);
+        figure.points = std::move(newPoints);
+    }
+    MarkClaimStale();
+}
+
+Refused CLineFamilyShape::Load(Loading& loading) {
+    const Json::Value& pairs = loading.geometry;
+    if (!pairs.isArray() || pairs.size() < LinePoints) {
+        return loading.Refuse("an array of 2 points or more");
+    }
+    const auto count = static_cast<Json::ArrayIndex>(std::min<size_t>(pairs.size(), MaximumPoints()));
+    figure.points.reserve(count);
+    for (Json::ArrayIndex i = 0; i < count; ++i) {
+        figure.points.push_back(ReadPoint(pairs[i], figure.fitted));
+    }
+    if (count == LinePoints && ReachesAcrossTheView(name)) {
+        figure.points = ExtendedAcrossGrid(figure.points);
+    }
+    Enter(Complete);
+    return std::nullopt;
+}
+
+Json::Value CLineFamilyShape::WriteGeometry(const Points& points, const ViewSize& view) const {
+    return points.size() < LinePoints ? Json::Value() : WritePoints(points, view);
+}
+
+} // namespace rulecanvas

@@ -1,0 +1,207 @@
+#include "shapes/paths/click_path_shape.h"
+
+#include "geometry/hit_tests.h"
+#include "geometry/segments.h"
+#include "shape/drawing.h"
+#include "shape/point_json.h"
+#include "shape/text.h"
+
+#include <utility>
+
+namespace rulecanvas {
+
+using platform::LockGuard;
+
+namespace {
+
+constexpr int MostPoints = 20;
+constexpr int FewestPoints = 3;
+constexpr int MinimumSpacing = 4;
+constexpr PointF NoPoint{-1.0F, -1.0F};
+
+} // namespace
+
+CClickPathShape::CClickPathShape() {
+    maxPtNum = MostPoints;
+    minPtNum = FewestPoints;
+    figure.lastPoint = NoPoint;
+}
+
+CVideoAnalyseShape* CClickPathShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    LockGuard guard(lock);
+    if (state == Complete) {
+        hitLevel = LevelAt(PositionOf(event), HasInside());
+    } else if (state != Deleted) {
+        hitLevel = Busy;
+    }
+    return this;
+}
+
+CVideoAnalyseShape* CClickPathShape::HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    const PointF press = PositionOf(event);
+    if (state == Drawing) {
+        if (HasEnoughPoints() && OfferFinish()) {
+            hitLevel = Busy;
+        }
+    } else if (state == Complete && HandleRightPress(press) && enableRBtnDelete) {
+        LockGuard guard(lock);
+        const int level = LevelAt(press, true);
+        hitLevel = level == Outside ? hitLevel : level;
+    }
+    return this;
+}
+
+int CClickPathShape::LevelAt(const PointF& press, bool hasInside) const {
+    if (IsOnOutline(press)) {
+        return OnOutline;
+    }
+    return hasInside && InPolygon(figure.points, press) ? Inside : Outside;
+}
+
+void CClickPathShape::HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) {
+    if (IsOutsideLimit(PositionOf(event)) && (state == Moving || state == Adjusting)) {
+        return;
+    }
+    FinishByRightButton(hitLevel);
+    DeleteByRightButton(hitLevel);
+}
+
+bool CClickPathShape::HasEnoughPoints() const {
+    LockGuard guard(lock);
+    return static_cast<int>(figure.points.size()) >= minPtNum;
+}
+
+bool CClickPathShape::OfferFinish() {
+    return true;
+}
+
+Outcome CClickPathShape::StartDrawing(const PointerEvent& press) {
+    if (!AcceptsPoint(press.position, press.view)) {
+        return {};
+    }
+    figure.points.assign(1, press.position);
+    figure.anchorPoint = press.position;
+    figure.lastPoint = press.position;
+    return Begin(Drawing);
+}
+
+Outcome CClickPathShape::ContinueDrawing(const PointerEvent& press) {
+    Points& path = figure.points;
+    if (path.empty() || !AcceptsPoint(press.position, press.view) || press.position == path.back()) {
+        return {};
+    }
+    const PointF last = path.back();
+    const bool isLast = static_cast<int>(path.size()) + 1 == maxPtNum;
+    path.push_back(press.position);
+    if (!AcceptsLastPoint(isLast) || CloserThan(MinimumSpacing, last, press.position) || !IsConvexEnough()) {
+        path.pop_back();
+        return {};
+    }
+    figure.anchorPoint = press.position;
+    return isLast ? Finish() : Outcome{};
+}
+
+bool CClickPathShape::AcceptsLastPoint(bool /*isLast*/) const {
+    return true;
+}
+
+Outcome CClickPathShape::DrawTo(const PointerEvent& position) {
+    figure.lastPoint = position.position;
+    return {};
+}
+
+Outcome CClickPathShape::EndDrawing(const PointerEvent& /*release*/) {
+    return {std::nullopt, effects::HoldMouse}; // a host may have let go of the mouse with the button
+}
+
+Outcome CClickPathShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
+    figure.grabbedIndex = VertexIndex(figure.points, press.position);
+    if (figure.grabbedIndex >= 0) {
+        figure.anchorPoint = figure.points[static_cast<size_t>(figure.grabbedIndex)];
+        return Grab(Adjusting);
+    }
+    if (InPolygon(figure.points, press.position)) {
+        figure.anchorPoint = press.position;
+        return Grab(Moving);
+    }
+    return {};
+}
+
+Outcome CClickPathShape::AdjustTo(const PointerEvent& position) {
+    DragPoint(figure.grabbedIndex, position.ClampedFrom(figure.anchorPoint), position.view);
+    return {};
+}
+
+Outcome CClickPathShape::EndAdjust(const PointerEvent& release) {
+    return IsOutsideLimit(release.position) ? Outcome{} : Finish();
+}
+
+bool CClickPathShape::DragPoint(int index, const PointF& to, const ClientRect& /*view*/) {
+    const auto vertex = static_cast<size_t>(index);
+    if (index < 0 || vertex >= figure.points.size()) {
+        return false;
+    }
+    const PointF before = std::exchange(figure.points[vertex], to);
+    if (!AcceptsVertex(vertex)) {
+        figure.points[vertex] = before;
+        return false;
+    }
+    return true;
+}
+
+bool CClickPathShape::AcceptsVertex(size_t /*vertex*/) const {
+    return IsConvexEnough();
+}
+
+void CClickPathShape::SetShapePoints(Points newPoints) {
+    {
+        LockGuard guard(lock);
+        figure.points = std::move(newPoints);
+    }
+    MarkClaimStale();
+}
+
+bool CClickPathShape::IsConvexEnough() const {
+    return !convex || IsConvex(figure.points);
+}
+
+bool CClickPathShape::IsOutsideLimit(const PointF& point) const {
+    return m_recWnd.left >= 0 && !InRectangle(m_recWnd, point);
+}
+
+void CClickPathShape::ReadWord(const char* option) {
+    convex = convex || IsWord(option, "Convex");
+    enableRBtnDelete = enableRBtnDelete || IsWord(option, "EnableRBtnDelete");
+}
+
+/// What a host has stored is taken as it is: few points, crossing edges and concave corners are tested only where the
+/// user makes them.
+Refused CClickPathShape::Load(Loading& loading) {
+    const Json::Value& elements = loading.geometry;
+    if (int64_t{elements.size()} > maxPtNum) {
+        return loading.Refuse("at most " + std::to_string(maxPtNum) + " points");
+    }
+    figure.points.reserve(elements.size());
+    for (Json::ArrayIndex i = 0; i < elements.size(); ++i) {
+        if (IsPoint(elements[i])) {
+            figure.points.push_back(ReadRealPoint(elements[i], figure.fitted));
+        }
+    }
+    Enter(figure.points.empty() ? Waiting : Complete);
+    return std::nullopt;
+}
+
+void CClickPathShape::Draw(const ShapeLook& look, PaintPass& pass) {
+    const Points& path = look.Path();
+    if (path.empty()) {
+        return;
+    }
+    DrawOpenPath(path, look.Thickness(), look.Colour(), pass.surface);
+    if (look.state == Drawing) {
+        const PointF end = ClampRelative(path.back(), look.figure.lastPoint, pass.AskPaintedRect());
+        DrawSegment(path.back(), end, look.Thickness(), look.Colour(), pass.surface);
+    }
+    DrawRest(look, pass.surface);
+}
+
+} // namespace rulecanvas

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "shape/gesture_shape.h"
+
+namespace rulecanvas {
+
+/// A figure of many points that is drawn click by click, with a rubber line from the last point to the mouse, and
+/// finished by the right button or by the last point allowed. Finished, it is moved by its inside and reshaped by its
+/// vertices.
+///
+/// The mode word "Convex" keeps it from ever becoming concave. `anchorPoint` is the last point placed while it is
+/// drawn, the last accepted mouse position while it is moved, and the place from which a vertex was dragged.
+class CClickPathShape : public CGestureShape {
+  public:
+    CClickPathShape();
+
+    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
+    /// Offers to finish a drawing, to act on an edge of the finished figure, or to delete it.
+    CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
+    void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
+    void SetShapePoints(Points newPoints) override;
+
+    /// A rectangle that gestures must end in; a negative left lifts the limit. For a figure that owns this one; none of
+    /// this version does.
+    void SetLimitRectangle(const ClientRect& limit) { m_recWnd = limit; }
+
+  protected:
+    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome ContinueDrawing(const PointerEvent& press) override;
+    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
+    Outcome AdjustTo(const PointerEvent& position) override;
+    Outcome EndAdjust(const PointerEvent& release) override;
+    bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
+
+    virtual bool IsOnOutline(const PointF& press) const = 0;
+    /// Whether a press inside the finished figure is a hit of its own.
+    virtual bool HasInside() const = 0;
+    /// What to do with a right press on the finished figure before the figure may be deleted by it. False: the press is
+    /// used up.
+    virtual bool HandleRightPress(const PointF& press) = 0;
+    /// Asked, without the lock, when the right button could finish a drawing that has points enough. False: it may not.
+    virtual bool OfferFinish();
+    /// Whether the path may grow by its last point; `isLast` when it is the last one allowed.
+    virtual bool AcceptsLastPoint(bool isLast) const;
+    /// Whether a finished figure may have the vertex where it is.
+    virtual bool AcceptsVertex(size_t vertex) const;
+    virtual bool IsPoint(const Json::Value& element) const = 0;
+    /// Everything but the edges between consecutive points and the rubber line.
+    virtual void DrawRest(const ShapeLook& look, IContainerGraphics& surface) = 0;
+
+    void ReadWord(const char* option) override;
+    Refused Load(Loading& loading) override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+
+    int LevelAt(const PointF& press, bool hasInside) const;
+    bool IsConvexEnough() const;
+    bool IsOutsideLimit(const PointF& point) const;
+
+  private:
+    bool HasEnoughPoints() const;
+
+    bool convex = false;
+    ClientRect m_recWnd{-1, -1, -1, -1};
+};
+
+} // namespace rulecanvas

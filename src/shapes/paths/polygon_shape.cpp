@@ -1,0 +1,174 @@
+#include "shapes/paths/polygon_shape.h"
+
+#include "geometry/hit_tests.h"
+#include "geometry/segments.h"
+#include "shape/drawing.h"
+#include "shape/point_json.h"
+#include "shape/shape_factory.h"
+
+#include <algorithm>
+
+namespace rulecanvas {
+
+using platform::LockGuard;
+
+namespace {
+
+using EdgePress = CPolygonShape::EdgePress;
+
+const bool registered =
+    CShapeFactory::GetInstance().Register("Polygon", &MakeShape<CPolygonShape, EdgePress::Ignored>) &&
+    CShapeFactory::GetInstance().Register("VirablePolygon", &MakeShape<CPolygonShape, EdgePress::InsertsVertex>);
+
+constexpr size_t FewestWritten = 3;
+
+enum DrawnDirection { NoDirection = -1, Inward = 0, Outward = 1, BothWays = 2 };
+
+void DrawDirection(const ShapeLook& look, IContainerGraphics& surface) {
+    const Points& ring = look.Path();
+    if (ring.size() < 2) {
+        return;
+    }
+    const ColorF& colour = look.Colour();
+    const CrossStroke mark = DrawDirectionMark(ring[0], ring[1], colour, surface);
+    const auto point = [&](bool toLower) {
+        const PointF& tail = toLower ? mark.upper : mark.lower;
+        const PointF& tip = toLower ? mark.lower : mark.upper;
+        DrawArrowHead(tail, tip, look.SelectedThickness(), colour, surface);
+    };
+    switch (look.style.direction) {
+    case Inward:
+        return point(!InPolygon(ring, mark.upper));
+    case Outward:
+        return point(!InPolygon(ring, mark.lower));
+    case BothWays:
+        point(true);
+        return point(false);
+    default:
+        return;
+    }
+}
+
+} // namespace
+
+bool CPolygonShape::RestartDrawing() {
+    selected = true;
+    return CClickPathShape::RestartDrawing();
+}
+
+void CPolygonShape::GetShapePoints(Points& out) const {
+    LockGuard guard(lock);
+    out.insert(out.end(), figure.points.begin(), figure.points.end());
+}
+
+/// A move keeps every edge apart from the others but for the rounding of fractions of a pixel, which can bring a vertex
+/// onto an edge.
+bool CPolygonShape::MovePoints(float dx, float dy, const ClientRect& view) {
+    if (ShiftsExactly(figure.points, dx, dy) || !IsSound()) {
+        return CClickPathShape::MovePoints(dx, dy, view);
+    }
+    Points before = figure.points;
+    if (CClickPathShape::MovePoints(dx, dy, view) && IsSound()) {
+        return true;
+    }
+    figure.points = std::move(before);
+    return false;
+}
+
+bool CPolygonShape::IsSound() const {
+    return !RingCrosses(figure.points) && IsConvexEnough();
+}
+
+bool CPolygonShape::IsOnOutline(const PointF& press) const {
+    return OnRing(figure.points, press);
+}
+
+/// A polygon that takes new vertices spends every right press on that: it is not deleted by one.
+bool CPolygonShape::HandleRightPress(const PointF& press) {
+    if (edgePress == EdgePress::Ignored) {
+        return true;
+    }
+    InsertVertex(press);
+    return false;
+}
+
+void CPolygonShape::InsertVertex(const PointF& press) {
+    Take(nullptr, [&]() -> Outcome {
+        Points& ring = figure.points;
+        const int count = static_cast<int>(ring.size());
+        if (state != Complete || count < minPtNum || count >= maxPtNum) {
+            return {};
+        }
+        for (size_t edge = 0; edge < ring.size(); ++edge) {
+            const size_t second = (edge + 1) % ring.size();
+            if (NearSegment(ring[edge], ring[second], press)) {
+                ring.insert(ring.begin() + static_cast<std::ptrdiff_t>(second), press);
+                break;
+            }
+        }
+        return {};
+    });
+}
+
+/// Offering the right button's finish is where a drawing that cannot be closed ends: nothing the user could click next
+/// would be sure to save it, so it starts over.
+bool CPolygonShape::OfferFinish() {
+    bool closes = true;
+    Take(nullptr, [&]() -> Outcome {
+        closes = !ClosingEdgeCrosses(figure.points);
+        if (closes) {
+            return {};
+        }
+        Forget();
+        figure.lastPoint = PointF{};
+        return {Waiting, effects::Finish};
+    });
+    return closes;
+}
+
+bool CPolygonShape::AcceptsLastPoint(bool isLast) const {
+    return PassesValidation(figure.points, isLast) && !LastEdgeCrosses(figure.points) &&
+           !(isLast && ClosingEdgeCrosses(figure.points));
+}
+
+bool CPolygonShape::AcceptsVertex(size_t vertex) const {
+    return !VertexCrosses(figure.points, vertex) && CClickPathShape::AcceptsVertex(vertex);
+}
+
+/// The test shifts the polygon back, not on, by what the release lies beyond the last accepted position.
+Outcome CPolygonShape::EndMove(const PointerEvent& release) {
+    const auto dx = static_cast<float>(TruncateToInt(release.position.x - figure.anchorPoint.x));
+    const auto dy = static_cast<float>(TruncateToInt(release.position.y - figure.anchorPoint.y));
+    const auto isOutside = [&](const PointF& vertex) { return IsOutsideLimit(Shifted(vertex, -dx, -dy)); };
+    return std::any_of(figure.points.begin(), figure.points.end(), isOutside) ? Outcome{} : Finish();
+}
+
+Json::Value CPolygonShape::WriteGeometry(const Points& points, const ViewSize& view) const {
+    return points.size() < FewestWritten ? Json::Value() : WritePoints(Truncated(points), view);
+}
+
+bool CPolygonShape::FitToPaint(const PaintPass& pass) {
+    figure.FitTo(pass.viewZero);
+    return true;
+}
+
+void CPolygonShape::DrawRest(const ShapeLook& look, IContainerGraphics& surface) {
+    const Points& ring = look.Path();
+    const bool closed = look.state != Waiting && look.state != Drawing;
+    const auto drawClosingEdge = [&] {
+        DrawSegment(ring.back(), ring.front(), look.Thickness(), look.Colour(), surface);
+    };
+    if (closed) {
+        drawClosingEdge();
+    }
+    if (closed && look.style.direction != NoDirection) {
+        drawClosingEdge();
+        DrawDirection(look, surface);
+    }
+    DrawShowName(look, surface);
+    if (look.handles && closed) {
+        DrawAdjustBoxes(ring, surface, look.Colour());
+    }
+}
+
+} // namespace rulecanvas

@@ -1,0 +1,72 @@
+// Geometry, and the few things that no export reaches.
+
+#include "geometry/arrows.h"
+#include "geometry/hit_tests.h"
+#include "geometry/rectangles.h"
+#include "shape/shape_factory.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace rulecanvas {
+namespace {
+
+TEST(Geometry, TruncatesTowardZeroAndSaturates) {
+    for (const auto& [value, expected] : std::initializer_list<std::pair<double, int>>{
+             {1.9, 1}, {-1.9, -1}, {1e20, INT32_MAX}, {-1e20, INT32_MIN}, {std::nan(""), 0}}) {
+        EXPECT_EQ(TruncateToInt(value), expected);
+    }
+    EXPECT_EQ(Span(INT32_MIN, INT32_MAX), INT32_MAX);
+}
+
+TEST(Geometry, HasTheTolerancesOfTheEditor) {
+    EXPECT_EQ(VertexIndex(Points{{50, 50}, {10, 10}, {11, 11}}, {14.9F, 5.1F}), 1);
+    EXPECT_EQ(VertexIndex(Points{{10, 10}}, {15, 10}), -1);
+    struct Case {
+        PointF a, b, near, beyond;
+    };
+    for (const Case& c :
+         {Case{{10, 0}, {10, 50}, {13, 20}, {13.5F, 20}}, Case{{10, 0}, {10, 50}, {10, 53}, {10, 53.5F}},
+          Case{{0, 10}, {50, 10}, {20, 13}, {20, 13.5F}}, Case{{0, 0}, {50, 50}, {24, 20}, {24.5F, 20}},
+          Case{{0, 0}, {25, 50}, {14, 20}, {14.5F, 20}}, Case{{0, 0}, {50, 50}, {-3, -3}, {-5, -5}},
+          Case{{7, 7}, {7, 7}, {10, 10}, {10, 10.5F}}}) {
+        for (const auto& [from, to] : {std::make_pair(c.a, c.b), std::make_pair(c.b, c.a)}) {
+            EXPECT_TRUE(NearSegment(from, to, c.near)) << c.near.x << "," << c.near.y;
+            EXPECT_FALSE(NearSegment(from, to, c.beyond)) << c.beyond.x << "," << c.beyond.y;
+        }
+    }
+}
+
+TEST(Geometry, ClampsAPointAsSeenFromAnAnchor) {
+    const ClientRect view{-5, -5, 100, 80};
+    for (const auto& [p, expected] : std::initializer_list<std::pair<PointF, PointF>>{
+             {{60.9F, 70.9F}, {60, 70}}, {{300, 300}, {100, 80}}, {{-9, 300}, {0, 80}}, {{-9, -9}, {0, 0}}}) {
+        EXPECT_EQ(ClampRelative({50, 50}, p, view), expected);
+    }
+    EXPECT_EQ(SpanRectangle({5, 5}, {5, 5}, view).firstPoint, Corner::TopLeft);
+}
+
+TEST(Geometry, CrossesASegmentWithItsDirectionMarkUpperEndFirst) {
+    struct Case {
+        PointF a, b, upper, lower;
+    };
+    for (const Case& c : {Case{{0, 50}, {100, 50}, {50, 30}, {50, 70}}, Case{{50, 0}, {50, 100}, {30, 50}, {70, 50}},
+                          Case{{0, 0}, {60, 80}, {46, 28}, {14, 52}}, Case{{60, 0}, {0, 80}, {14, 28}, {46, 52}}}) {
+        const CrossStroke stroke = DirectionMarkOf(c.a, c.b);
+        EXPECT_LT(std::hypot(stroke.upper.x - c.upper.x, stroke.upper.y - c.upper.y), 0.01);
+        EXPECT_LT(std::hypot(stroke.lower.x - c.lower.x, stroke.lower.y - c.lower.y), 0.01);
+    }
+    const ArrowBarbs up = BarbsOf({10, 50}, {10, 10}, ArrowHeadHalfAngle());
+    EXPECT_GT(std::min(up.first.y, up.second.y), 18) << "a vertical arrow has two barbs too, behind its tip";
+    EXPECT_LT(std::min(up.first.x, up.second.x), 6);
+    EXPECT_GT(std::max(up.first.x, up.second.x), 14);
+}
+
+TEST(Factory, KeepsTheFirstRegistrationOfAName) {
+    EXPECT_FALSE(CShapeFactory::GetInstance().Register("Rect", nullptr));
+    EXPECT_NE(CShapeFactory::GetInstance().CreateShape("Rect"), nullptr);
+}
+
+} // namespace
+} // namespace rulecanvas
