@@ -35,8 +35,10 @@
  *     placed in it and no figure is refitted to it. All figures are refitted to the client rectangle of view 0,
  *     whatever view they are in: a host answers for view 0 even when it has none, and gives the views of one container
  *     one size.
- * 10. Failure is a result, never an exception, and is not logged. What the user may not do (a point outside the view,
- *     edges that would cross) is refused in silence, and the figure stays as it was.
+ * 10. Failure is a result, never an exception, and is not logged, unless RULECANVAS_TRACE=1 stood in the environment
+ *     when the library was loaded: then each refused call sends one line to the debug output of Windows, elsewhere to
+ *     the standard error. What the user may not do (a point outside the view, edges that would cross) is refused in
+ *     silence, and the figure stays as it was.
  *
  * docs/reference has a page for every shape type, and the tables of style keys, notifications, hit levels and states.
  */
@@ -124,8 +126,8 @@ enum ContainerShapeState {
 
 /* Values of ContainerMouseEvent::code; any other value is ignored.
  *
- * MOVED is a move of the pointer: it asks for a redraw when the last press met a busy shape, reaches the gesture in
- * progress and then every shape. MOVED_EVENT reaches the gesture alone. CURSOR_QUERY reaches it too, after the hint
+ * MOVED is a move of the pointer: it asks for a redraw when the last press met a busy shape, and reaches the gesture in
+ * progress. MOVED_EVENT reaches the gesture without asking. CURSOR_QUERY reaches it too, after the hint
  * (RULECANVAS_HOST_SET_INTERACTION_HINT). ALT_RIGHT_DOWN and RIGHT_UP reach no shape type of this version. */
 enum ContainerMouseEventCode {
     RULECANVAS_MOUSE_LEFT_DOWN = 1,
