@@ -4,7 +4,7 @@
 #
 # usage: scripts/setup.sh [GROUP...]
 #   build   compilers for both targets, CMake, JsonCpp and its source for the cross build
-#   test    GoogleTest, and 32-bit Wine with a prefix of the project's own
+#   test    GoogleTest, Python for the samples of the documents, and 32-bit Wine with a prefix of the project's own
 #   fuzz    the run-time libraries of clang's sanitizers and fuzzer
 #   bench   Google Benchmark
 #   lint    clang-format and clang-tidy
@@ -32,13 +32,13 @@ select_group() {
             want_jsoncpp=true
             ;;
         test)
-            packages+=(googletest libgtest-dev wine wine32:i386)
+            packages+=(googletest libgtest-dev python3 wine wine32:i386)
             want_wine=true
             ;;
         fuzz) packages+=(clang llvm libclang-rt-dev) ;;
         bench) packages+=(libbenchmark-dev) ;;
         lint) packages+=(clang-format clang-tidy) ;;
-        demo) packages+=(xvfb ffmpeg fonts-liberation) ;;
+        demo) packages+=(xvfb xauth ffmpeg python3 fonts-liberation) ;;
         *) die "unknown group '$1'; known are build, test, fuzz, bench, lint and demo" ;;
     esac
 }

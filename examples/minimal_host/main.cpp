@@ -56,7 +56,7 @@ int main() {
     PrintingSurface surface;
     container.Paint(VIEW, surface);
 
-    // What a host stores; addShape takes it back as `configuration`.
+    // What a host stores; AddShape takes it back as `configuration`.
     std::printf("geometry %s", container.Configuration(shape).c_str());
     return 0;
 }

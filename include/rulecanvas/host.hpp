@@ -30,7 +30,7 @@ enum class Outline : uint32_t { Unselected = 0, Selected = 1 };
 /// One container, from its creation to its release. Movable: the addresses that the library knows do not move with it.
 /// Make and end containers while no other thread calls the library, and do not end one from inside a callback of its own.
 ///
-/// Callables given to on...() run on the thread of the call that caused them and may call any function here but the end
+/// Callables given to On...() run on the thread of the call that caused them and may call any function here but the end
 /// of the container. They must not throw (an exception that leaves one ends the program). They are kept until the
 /// container ends, also when replaced, because one may be running then.
 class Container {
@@ -80,7 +80,8 @@ class Container {
     }
 
     /// `callable(ViewID view)` returns the ClientRect of that view in pixels. Asked on the mouse and on the paint
-    /// thread. Shapes refit themselves to what it answers for view 0. Without it no shape can be drawn by the user.
+    /// thread. Shapes refit themselves to what it answers for view 0, whatever view they are in. Without it no shape can
+    /// be drawn by the user.
     template <class Callable>
     bool OnClientRect(Callable callable) {
         const CDelegate delegate = callables.Add(new ClientArea<Callable>(static_cast<Callable&&>(callable)));
@@ -120,7 +121,8 @@ class Container {
 
     // ---- Shapes ----
 
-    /// Makes a selected shape. 0: unknown type or refused configuration.
+    /// Makes a selected shape. 0: unknown type or refused configuration, of which a selection notification was sent
+    /// nevertheless.
     ShapeID AddShape(const ShapeSettings& settings) {
         return CreateMainVideoAnalyseShape(handle, settings.view, settings.label, settings.type, settings.name,
                                            settings.configuration, settings.option);
@@ -129,8 +131,8 @@ class Container {
     uint32_t AddToShape(ShapeID shape, uint32_t first, uint32_t second, uint32_t third) {
         return AddVideoAnalyseShape(handle, shape, first, second, third);
     }
-    /// True whether or not the shape is known; false without a container. The same holds for setCaption, showShape and
-    /// showHandles; the other calls that name a shape answer false when it is unknown.
+    /// True whether or not the shape is known; false without a container. The same holds for SetCaption, ShowShape and
+    /// ShowHandles; the other calls that name a shape answer false when it is unknown.
     bool DeleteShape(ShapeID shape) { return IsTrue(DeleteVideoAnalyseShape(handle, shape)); }
     void DeleteAllShapes() { DeleteAllVideoAnalyseShape(handle); }
 
@@ -152,7 +154,7 @@ class Container {
     bool EnableShape(ShapeID shape, bool enabled = true) {
         return IsTrue(EnableVideoAnalyseShape(handle, shape, AsBool32(enabled)));
     }
-    /// Throws the figure away, so that the user draws it again.
+    /// Throws the figure away, so that the user draws it again; an oval stays.
     bool RedrawShape(ShapeID shape) { return IsTrue(RedrawVideoAnalyseShape(handle, shape)); }
     bool ShowShape(ShapeID shape, bool visible = true) {
         return IsTrue(ShowVideoAnalyseShape(handle, shape, AsBool32(visible)));
@@ -167,11 +169,12 @@ class Container {
     bool SetColour(ShapeID shape, Outline outline, int32_t red, int32_t green, int32_t blue) {
         return IsTrue(SetVideoAnalyseShapeColor(handle, shape, red, green, blue, static_cast<uint32_t>(outline)));
     }
-    /// -1..5. The answer is 0 also on success: only a composite shape has another.
+    /// -1 is none; what other numbers mean is the type's affair. The answer is 0 also on success: only a composite shape
+    /// has another.
     int32_t SetDirection(ShapeID shape, int32_t direction) {
         return SetVideoAnalyseShapeDirection(handle, shape, direction);
     }
-    /// How many points the user may and must give; a minimum below 3 counts as 3.
+    /// How many points the user may and must give, for the types that heed it; a minimum below 3 counts as 3.
     bool SetPointLimits(ShapeID shape, int32_t maximum, int32_t minimum) {
         return IsTrue(SetVideoAnalyseShapeMaxPtNum(handle, shape, maximum, minimum));
     }

@@ -11,8 +11,9 @@ namespace rulecanvas {
 /// (an exception that leaves one ends the program).
 class HostObject {
   public:
-    /// `redraw()`: repaint the views, at once or soon. `hint(uint32_t value)`: value 4 says that the pointer is over a
-    /// figure that it could grab, for instance to show another cursor.
+    /// `redraw()`: repaint the views, at once or soon. `hint(uint32_t value)`: value 4, in answer to a cursor
+    /// query, says that the last press met a figure's outline or inside, for instance to keep another cursor while that
+    /// is dragged. It says nothing of what lies under the pointer now.
     template <class Redraw, class Hint>
     HostObject(Redraw redraw, Hint hint)
         : table(&TheTable),

@@ -9,29 +9,38 @@
  *  2. Words. An argument or field of type uintptr_t is one machine word: 32 bits on 32-bit Windows.
  *  3. Booleans. A Bool32 result is exactly 0 or 1. Of a Bool32 argument only the low byte counts, in both directions,
  *     so that a caller that pushes a one-byte boolean may leave junk above it.
- *  4. Identities. ContainerHandle, ShapeID and ViewID are 32-bit numbers; 0 names no container and no shape. An
- *     unknown or stale handle or ID is harmless: the call changes nothing and returns the failure value named with
- *     it. On 32-bit Windows an identity may be given again to an object that is made later.
+ *  4. Identities. ContainerHandle, ShapeID and ViewID are 32-bit numbers; 0 names no container and no shape, but is a
+ *     view like any other. An unknown or stale handle or ID is harmless: the call changes nothing and returns the
+ *     failure value named with it. On 32-bit Windows an identity may be given again to an object that is made later.
  *  5. Texts are NUL-terminated bytes in whatever code page the host uses. They are stored, compared and written to
  *     JSON byte for byte. The caller owns every text it passes; the library copies what it keeps. Texts that the
  *     library passes to a callback are valid during that call only. A null text reads as the empty text unless stated
  *     otherwise.
- *  6. Output texts are copied into a buffer of the caller, whose size in bytes is signed; a null buffer or a size
- *     that is too small (negative included) leaves the buffer untouched.
+ *  6. Output texts are copied into a buffer of the caller, whose size in bytes is signed; a null buffer or a size that
+ *     is too small, zero and negative ones included, leaves the buffer untouched.
  *  7. Ownership. The library owns containers and shapes. Delegates are two words and are copied; their targets stay
- *     the host's and must live until the container is released, or until the delegate is replaced and calls of it
- *     that other threads had begun have returned. A handler that the host fetched belongs to the host, which ends it
+ *     the host's and must live until the container is released, or until the delegate is replaced and calls of it that
+ *     other threads had begun have returned. A handler that the host fetched belongs to the host, which ends it
  *     through the handler's own table.
- *  8. Threads. The library starts none. Creating and releasing containers and GetVideoAnalyseAllShapestates must not
- *     overlap a call of another thread. The mouse handler must not run while another thread creates, deletes or redraws
- *     shapes of the same container. The draw handler may run on a thread of its own beside all per-container calls.
- *     Callbacks arrive on the thread of the call that caused them; any function may be called from inside a callback,
- *     even one that ends the speaking shape or its container. A callback must not wait for another thread that is
- *     inside the library: client rectangles are asked, and the capture is given back, while the container is locked
- *     against deletion.
- *  9. Units. Points are pixels of a view's client area, origin at the top left, y downwards. Configuration texts
- *     carry whole numbers on a grid of 0..8191 over the view's width and over its height.
- * 10. Failure is a result, never an exception, and is not logged.
+ *  8. Threads. The library starts none. Where a function says nothing else, any thread may call it at any time.
+ *     Creating and releasing containers and GetVideoAnalyseAllShapestates must not overlap a call of another thread.
+ *     The mouse handler must not run while another thread creates, deletes or redraws shapes of the same container.
+ *     The draw handler may run on a thread of its own beside all per-container calls. Callbacks arrive on the thread
+ *     of the call that caused them; any function may be called from inside a callback, even one that ends the speaking
+ *     shape or its container. A callback must not wait for another thread that is inside the library: client
+ *     rectangles are asked, and the capture is given back, while the container is locked against deletion.
+ *  9. Units. Points are pixels of a view's client area, origin at the top left, y downwards. Configuration texts carry
+ *     whole numbers on a grid of 0..8191 over the view's width and over its height; loading rounds them to whole
+ *     pixels. A client rectangle whose width or height is 0 or negative is that of a view without a size: nothing is
+ *     placed in it and no figure is refitted to it. All figures are refitted to the client rectangle of view 0,
+ *     whatever view they are in: a host answers for view 0 even when it has none, and gives the views of one container
+ *     one size.
+ * 10. Failure is a result, never an exception, and is not logged, unless RULECANVAS_TRACE=1 stood in the environment
+ *     when the library was loaded: then each refused call sends one line to the debug output of Windows, elsewhere to
+ *     the standard error. What the user may not do (a point outside the view, edges that would cross) is refused in
+ *     silence, and the figure stays as it was.
+ *
+ * docs/reference has a page for every shape type, and the tables of style keys, notifications, hit levels and states.
  */
 #ifndef RULECANVAS_RULECANVAS_H
 #define RULECANVAS_RULECANVAS_H
@@ -80,7 +89,8 @@ typedef struct PointF {
     float y;
 } PointF;
 
-/* Red, green and blue run 0..255. Alpha 1.0 is opaque; the mosaic alone passes 128. */
+/* Red, green and blue are meant on 0..255, but passed on as the host or a style gave them. Alpha 1.0 is opaque; the
+ * mosaic alone passes 128. */
 typedef struct ColorF {
     float alpha;
     float red;
@@ -88,8 +98,8 @@ typedef struct ColorF {
     float blue;
 } ColorF;
 
-/* `size` is whatever the figure put there (0, 1, 2 and 24 occur): a host draws anything below 6 in its own default
- * size. */
+/* `size` is whatever the figure put there (0, 1, 2 and 24 occur), or for "PixelCountShape" the "FontSize" of its
+ * style: a host draws anything below 6, which may be negative, in its own default size. */
 typedef struct TextStyle {
     ColorF colour;
     float size;
@@ -103,7 +113,22 @@ typedef struct ClientRect {
     int32_t bottom;
 } ClientRect;
 
-/* Values of ContainerMouseEvent::code; any other value is ignored. */
+/* Where a shape stands in its life: the numbers of "PreShapeState" and "ShapeState" in notifications. A press goes to a
+ * shape in one of the four states in which it is busy before it goes to any other. */
+enum ContainerShapeState {
+    RULECANVAS_STATE_DELETED = 0,  /* Deleted by the right button: empty, neither drawn nor hit, still to be deleted. */
+    RULECANVAS_STATE_WAITING = 1,  /* Busy: the next press in its view begins the drawing. */
+    RULECANVAS_STATE_DRAWING = 2,  /* Busy. */
+    RULECANVAS_STATE_COMPLETE = 3, /* Can be moved and changed. */
+    RULECANVAS_STATE_MOVING = 4,   /* Busy, except an oval. */
+    RULECANVAS_STATE_ADJUSTING = 5 /* Busy, except an oval: one of its points is being dragged. */
+};
+
+/* Values of ContainerMouseEvent::code; any other value is ignored.
+ *
+ * MOVED is a move of the pointer: it asks for a redraw when the last press met a busy shape, and reaches the gesture in
+ * progress. MOVED_EVENT reaches the gesture without asking. CURSOR_QUERY reaches it too, after the hint
+ * (RULECANVAS_HOST_SET_INTERACTION_HINT). ALT_RIGHT_DOWN and RIGHT_UP reach no shape type of this version. */
 enum ContainerMouseEventCode {
     RULECANVAS_MOUSE_LEFT_DOWN = 1,
     RULECANVAS_MOUSE_LEFT_UP = 2,
@@ -119,9 +144,9 @@ enum ContainerMouseEventCode {
 /* What the host passes to the mouse handler for every mouse and key event of a view. The record may be longer. */
 typedef struct ContainerMouseEvent {
     uint32_t code;
-    ViewID viewId;
+    ViewID viewId; /* Only shapes of this view hear of the event. */
     uint32_t unused0;
-    float x;
+    float x; /* May lie outside the view while the mouse is captured. */
     float y;
     uint16_t unused1;
     uint16_t keyCode; /* Virtual-key code with RULECANVAS_MOUSE_KEY_DOWN; 27 is Escape. */
@@ -132,7 +157,7 @@ typedef struct ContainerMouseEvent {
  * `method` points to code with one of these forms:
  *   notify          void   THISCALL (void* target, const char* text, Bool32 flag)
  *   client rect     void   THISCALL (void* target, ViewID view, ClientRect* out)
- *   mouse capture   Bool32 THISCALL (void* target, Bool32 take)
+ *   mouse capture   Bool32 THISCALL (void* target, Bool32 take), whose answer changes nothing
  *   translate, adjust point: stored, not called by any shape type of this version.
  */
 typedef struct CDelegate {
@@ -179,8 +204,12 @@ typedef struct ContainerHandlerHolder {
 /* Places of the two operations, counted from zero, in the table of the host object given to
  * CreateVideoAnalyseContainer. Each is void THISCALL (void* host, uint32_t value). Only the places named here are ever
  * called. */
-#define RULECANVAS_HOST_SET_INTERACTION_HINT 45 /* value 4: the pointer is over a figure that it could grab. */
-#define RULECANVAS_HOST_REQUEST_REDRAW 54       /* value 0: repaint the views. */
+/* value 4, in answer to a cursor query: the last press of a button met a figure's outline or inside. It follows that
+ * press alone, not what lies under the pointer now. */
+#define RULECANVAS_HOST_SET_INTERACTION_HINT 45
+/* value 0: repaint the views. Asked for on Escape and on moves after a press that met a busy shape; not while a
+ * complete figure is dragged. */
+#define RULECANVAS_HOST_REQUEST_REDRAW 54
 
 /* The host's drawing operations, valid during one call of the draw handler and called on that thread only. The library
  * calls no reserved place. Widths are pixels; `penStyle` 0 is solid, 1 patterned. */
@@ -284,19 +313,25 @@ typedef struct IContainerGraphics {
 /* ---- The exported functions ---- */
 
 /* Makes a container, disabled, without shapes and delegates. `hostObject` is not owned, must outlive the container, and
- * may be null: then no hint and no redraw is asked for. Returns 0 without memory. */
+ * may be null: then no hint and no redraw is asked for. Returns 0 without memory. No other thread may be inside the
+ * library. */
 RULECANVAS_API ContainerHandle RULECANVAS_CALL CreateVideoAnalyseContainer(void* hostObject);
 
-/* Destroys the container and its shapes. End the handlers fetched from it first: one that is kept does nothing, until a
- * later container happens to get the same identity. */
+/* Destroys the container and its shapes, which give the capture back when they hold it. End the handlers
+ * fetched from it first: one that is kept does nothing, until a later container happens to get the same identity. No
+ * other thread may be inside the library. */
 RULECANVAS_API void RULECANVAS_CALL ReleaseVideoAnalyseContainer(ContainerHandle container);
 
 /* Makes a shape of a registered type ("Rect", "LineShape", ...) in a view and returns its ID, or 0: unknown type,
- * refused configuration. The shape is selected.
+ * refused configuration, or an option that holds a value that cannot be converted. The shape is selected.
  *   label   becomes "EventName" in every notification of the shape;
  *   name    names the shape in notifications and is the key of its geometry in `config`; null reads as "NoName";
  *   config  JSON object with the geometry; empty: the user draws the shape;
- *   option  JSON object with the style, or one mode word, as the type understands it. */
+ *   option  JSON object with the style, or one mode word ("TextOnly", "EnableRBtnDelete", "Convex", "Horizon",
+ *           "MovedHLine", "solid", a number of crosses), which must be the whole text. What a type does not know, it
+ *           ignores.
+ * A selection notification, in which the name is still empty, comes before the call returns: also for a configuration
+ * that is then refused, and so for a shape that never exists. Must not overlap the mouse handler. */
 RULECANVAS_API ShapeID RULECANVAS_CALL CreateMainVideoAnalyseShape(ContainerHandle container, ViewID view,
                                                                    const char* label, const char* type,
                                                                    const char* name, const char* config,
@@ -324,87 +359,100 @@ RULECANVAS_API void RULECANVAS_CALL SetAdjustPointCoordinateDelegate(ContainerHa
 RULECANVAS_API uint32_t RULECANVAS_CALL AddVideoAnalyseShape(ContainerHandle container, ShapeID shape, uint32_t first,
                                                              uint32_t second, uint32_t third);
 
-/* Clears and destroys a shape. 1 for every known container, whether or not the shape is known. */
+/* Gives the capture back for a shape, clears and destroys it, without a notification. 1 for every known container,
+ * whether or not the shape is known. Lasts about 10 ms but for ovals, crosses and spots, so that a paint of another
+ * thread can finish. Must not overlap the mouse handler. */
 RULECANVAS_API Bool32 RULECANVAS_CALL DeleteVideoAnalyseShape(ContainerHandle container, ShapeID shape);
 
-/* Destroys all shapes of the container. */
+/* Destroys all shapes of the container, without notifications, in about 10 ms. Must not overlap the mouse handler. */
 RULECANVAS_API void RULECANVAS_CALL DeleteAllVideoAnalyseShape(ContainerHandle container);
 
-/* Selects or deselects a shape and shows or hides its handles. 1; 0 when unknown. */
+/* Selects or deselects a shape and shows or hides its handles; other shapes stay as they are. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SelectVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 select);
 
-/* Sets the direction that the shape draws. Takes effect on a shape of the container itself, and then returns 0; returns
- * the parent's answer for a part of a composite shape. */
+/* Sets the direction that the shape draws, any number; -1 is none. "LineShape" and its two variants and "XLineShape":
+ * 0 from side A to side B, 1 from B to A, 2 both; they heed this call alone, not the "Direction" of a style. "Polygon"
+ * and "VirablePolygon": 0 inwards, 1 outwards, 2 both. "ArrowLineShape": 3 and 4 by the slope of the last segment, 5
+ * along the first. Another number draws a cross stroke without arrows, on "XLineShape" both arrows, on
+ * "ArrowLineShape" none. The other types show no direction. Takes effect on a shape of the container itself, and then
+ * returns 0; returns the parent's answer for a part of a composite shape, which no type of this version is. */
 RULECANVAS_API int32_t RULECANVAS_CALL SetVideoAnalyseShapeDirection(ContainerHandle container, ShapeID shape,
                                                                      int32_t direction);
 
 /* A disabled container ignores mouse events and draws nothing. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL EnableVideoAnalyseContainer(ContainerHandle container, Bool32 enable);
 
-/* Copies the shape's geometry, one line of JSON, into the buffer. 1 when a text was copied, else 0: unknown, the shape
- * has no figure yet, the buffer is too small. A buffer that holds the text with its final line feed and a terminating
- * zero is always large enough. Lines are written without the line feed; polygons, crosses and spots also go into a buffer
- * of exactly the text's length, and then without the zero. */
+/* Copies the shape's geometry as it is now, one line of JSON, into the buffer. 1 when a text was copied, else 0:
+ * unknown, the shape has no figure, or one with too few points, the buffer is too small. A buffer that holds the text
+ * with its final line feed and a terminating zero is always large enough. Lines are written without the line feed;
+ * polygons, crosses and spots also go into a buffer of exactly the text's length, and then without the zero. */
 RULECANVAS_API Bool32 RULECANVAS_CALL GetVideoAnalyseShapeConfigData(ContainerHandle container, ShapeID shape,
                                                                      char* buffer, int32_t size);
 
-/* A disabled shape gets no presses. Enabling also selects the shape, disabling deselects it and hides its handles. 1; 0
- * when unknown. */
+/* A disabled shape gets no presses, but is drawn. Enabling also selects the shape, without showing its handles;
+ * disabling deselects it and hides them. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL EnableVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 enable);
 
-/* Throws the figure away, so that the user draws it again; an oval stays as it is. 1; 0 when unknown. */
+/* Throws the figure away, without a notification, so that the user draws it again; an oval stays as it is. 1; 0 when
+ * unknown. Must not overlap the mouse handler. */
 RULECANVAS_API Bool32 RULECANVAS_CALL RedrawVideoAnalyseShape(ContainerHandle container, ShapeID shape);
 
 /* Sets the source of a view's client rectangle, whose left and top must be 0: figures are refitted by its right and
- * bottom. It is asked on the mouse and on the paint thread. Unset, every rectangle is all zeros. 1; 0 when unknown. A null
- * pointer changes nothing and returns 0. */
+ * bottom. It is asked on the mouse and on the paint thread. Unset, every rectangle is all zeros and nothing can be
+ * drawn. 1; 0 when unknown. A null pointer changes nothing and returns 0. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetGetContainerRectClientDelegate(ContainerHandle container,
                                                                         const GetContainerRectClientDelegate* delegate);
 
-/* Sets whom shapes ask to take (1) and release (0) the mouse capture. Results as above. */
+/* Sets whom shapes ask to take (1) and release (0) the mouse capture. A host must not count the two: crosses, ovals
+ * that were just drawn and spots that were just placed take it without giving it back, and others may give it back more
+ * than once. Results as above. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetCtrlContainerWinMouseCaptureDelegate(
     ContainerHandle container, const CtrlContainerWinMouseCaptureDelegate* delegate);
 
-/* The first selected shape in ascending order of ShapeID; 0 when there is none. */
+/* The first selected shape in ascending order of ShapeID, of any view; 0 when there is none. */
 RULECANVAS_API ShapeID RULECANVAS_CALL GetSelectedVideoAnalyseShapeID(ContainerHandle container);
 
-/* Sets the caption drawn beside the shape. 1 for every known container. */
+/* Sets the caption drawn beside the shape; arrows, pixel counters and cross-hairs show none. 1 for every known
+ * container. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseShapeShowName(ContainerHandle container, ShapeID shape,
                                                                    const char* text);
 
-/* Shows or hides a shape. 1 for every known container. */
+/* Shows or hides a shape, which gets its presses all the same. An oval that was drawn or resized last cannot be
+ * hidden. 1 for every known container. */
 RULECANVAS_API Bool32 RULECANVAS_CALL ShowVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 show);
 
 /* Stores the delegate; see CDelegate. 1; 0 when unknown. A null pointer changes nothing and returns 0. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetContainerTranslateDelegate(ContainerHandle container,
                                                                     const ContainerTranslateDelegate* delegate);
 
-/* Sets the tip drawn in the middle of a view until a press hits a shape of that view. 1; 0 when unknown. */
+/* Sets the tip drawn in the middle of a view until a press hits a shape of that view; an empty one is none. 1; 0 when
+ * unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseContainerTip(ContainerHandle container, ViewID view,
                                                                   const char* tip);
 
-/* Refits all shapes to the client rectangle at once; the draw handler does the same. 1; 0 when unknown. */
+/* Refits all shapes to the client rectangle of view 0 at once; the draw handler does the same. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL InvalidateAllShape(ContainerHandle container);
 
 /* Shows or hides the handles of a shape. 1 for every known container. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetAdjustBoxbShow(ContainerHandle container, ShapeID shape, Bool32 show);
 
-/* Sets the outline colour, 0..255 a component, of the selected shape (`selectedColour` 1) or of the unselected one (0).
- * 1; 0 when unknown. */
+/* Sets the outline colour of the selected shape (`selectedColour` 1) or of the unselected one (0), opaque. Components
+ * are meant on 0..255 and not tested. Crosses and pixel counters show the selected colour only. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseShapeColor(ContainerHandle container, ShapeID shape, int32_t red,
                                                                 int32_t green, int32_t blue, Bool32 selectedColour);
 
 /* Sets how many points the user may and must give. The maximum is taken as it is; a minimum of 3 or less is taken as 3.
- * 1; 0 when unknown. */
+ * Both are heeded by "BrokenLine", "Polygon" and "VirablePolygon"; the maximum, at least 2, by "ArrowLineShape" and
+ * "XLineShape"; the maximum, as the number of crosses, by "CrossShape"; none by the other types. 1; 0 when unknown. */
 RULECANVAS_API Bool32 RULECANVAS_CALL SetVideoAnalyseShapeMaxPtNum(ContainerHandle container, ShapeID shape,
                                                                    int32_t maximum, int32_t minimum);
 
-/* Sets the resolution of the video in pixels, which "PixelCountShape" takes over when it first draws. */
+/* Sets the size of the video in pixels, both above 0, which "PixelCountShape" takes over when it is first drawn. */
 RULECANVAS_API void RULECANVAS_CALL SetPixelCount(ContainerHandle container, int32_t width, int32_t height);
 
 /* Copies the state of all shapes of all containers as one JSON array into the buffer, "null" without shapes: for each
- * shape "ShapeID", "ShapeName", "ShapeType" and "bSelShape". Nothing tells that the buffer was too small: size
- * generously. */
+ * shape "ShapeID" (signed), "ShapeName", "ShapeType" and "bSelShape". Nothing tells that the buffer was too small: size
+ * generously. No other thread may be inside the library. */
 RULECANVAS_API void RULECANVAS_CALL GetVideoAnalyseAllShapestates(char* buffer, int32_t size);
 
 #ifdef __cplusplus

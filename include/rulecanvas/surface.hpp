@@ -14,7 +14,7 @@ namespace rulecanvas {
 
 /// Derive from it and implement what the host can draw; every operation does nothing by default. Coordinates are pixels
 /// of the view that is painted, y downwards. Texts and pointers are valid during the call. `penStyle` 0 is a solid pen,
-/// 1 a patterned one. All operations run on the thread that called Container::paint, inside that call, and must not
+/// 1 a patterned one. All operations run on the thread that called Container::Paint, inside that call, and must not
 /// throw (an exception that leaves one ends the program). A surface may be made for one paint or kept for many.
 class Surface : public IContainerGraphics {
   public:
@@ -44,7 +44,8 @@ class Surface : public IContainerGraphics {
         (void)topLeft, (void)bottomRight, (void)colour;
     }
 
-    /// Draw a text with its top left at the point. Sizes below 6 stand for the host's own default size.
+    /// Draw a text with its top left at the point. The size is the figure's own or, of a pixel counter, the "FontSize"
+    /// of its style; sizes below 6, negative ones included, stand for the host's own default size.
     virtual void DrawString(const PointF& at, const TextStyle& style, const char* text) {
         (void)at, (void)style, (void)text;
     }
