@@ -16,21 +16,20 @@ size_t locks = 0;
 
 } // namespace
 
-// NOLINTBEGIN(misc-definitions-in-headers): the program's own, to be counted
-void* operator new(size_t size) {
+// The program's own, to be counted; not inlined, or compilers take them for a mismatch.
+[[gnu::noinline]] void* operator new(size_t size) {
     ++allocations;
     if (void* memory = std::malloc(size)) {
         return memory;
     }
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
-void operator delete(void* memory, size_t /*size*/) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, size_t /*size*/) noexcept {
     std::free(memory);
 }
-// NOLINTEND(misc-definitions-in-headers)
 
 /// Stands before rulecanvas::platform::ContainerMutex::Lock.
 extern "C" void __real__ZN10rulecanvas8platform14ContainerMutex4LockEv(void* self);

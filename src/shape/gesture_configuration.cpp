@@ -17,7 +17,8 @@ Refused CGestureShape::SetVideoAnalyseShapeData(const Configuration& configurati
     try {
         return Configure(configuration);
     } catch (const Json::Exception& inconvertible) {
-        return Refusal{"values of the documented types", inconvertible.what(), "$." + name};
+        return Refusal{"values of the documented types",
+                       std::string("one that cannot be converted (") + inconvertible.what() + ")", "$." + name};
     }
 }
 
