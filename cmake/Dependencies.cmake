@@ -2,15 +2,12 @@
 # FETCHCONTENT_SOURCE_DIR_<NAME> names; the presets set it to where scripts/setup.sh puts the sources.
 include(FetchContent)
 
-# A function, so that a dependency's own options can be set around the call without reaching this project.
-function(rulecanvas_build_from_source name)
+function(rulecanvas_require_source name)
   string(TOUPPER "FETCHCONTENT_SOURCE_DIR_${name}" variable)
   if(NOT EXISTS "${${variable}}/CMakeLists.txt")
-    message(FATAL_ERROR "${name} is not installed and ${variable} names no source of it: run scripts/setup.sh first")
+    message(FATAL_ERROR "${name} is not installed and ${variable} names no source of it: run scripts/setup.sh, or set it")
   endif()
   message(STATUS "${name}: built from ${${variable}}")
-  FetchContent_Declare(${name})
-  FetchContent_MakeAvailable(${name})
 endfunction()
 
 function(rulecanvas_mark_as_system target)
@@ -18,23 +15,26 @@ function(rulecanvas_mark_as_system target)
   set_target_properties(${target} PROPERTIES INTERFACE_SYSTEM_INCLUDE_DIRECTORIES "${directories}")
 endfunction()
 
+# JsonCpp's own build would leave output folders and a build type in the cache of whoever builds this library and would
+# install its files with ours, so its three sources are compiled here.
 function(rulecanvas_provide_jsoncpp)
   find_package(jsoncpp CONFIG QUIET)
   if(TARGET JsonCpp::JsonCpp)
     return()
   endif()
-  set(BUILD_SHARED_LIBS OFF)
-  set(BUILD_STATIC_LIBS ON)
-  set(BUILD_OBJECT_LIBS OFF)
-  set(JSONCPP_WITH_TESTS OFF)
-  set(JSONCPP_WITH_POST_BUILD_UNITTEST OFF)
-  set(JSONCPP_WITH_PKGCONFIG_SUPPORT OFF)
-  set(JSONCPP_WITH_CMAKE_PACKAGE OFF)
-  rulecanvas_build_from_source(jsoncpp)
-  rulecanvas_mark_as_system(jsoncpp_static)
-  add_library(JsonCpp::JsonCpp ALIAS jsoncpp_static)
+  rulecanvas_require_source(jsoncpp)
+  set(source "${FETCHCONTENT_SOURCE_DIR_JSONCPP}")
+  add_library(rulecanvas_jsoncpp STATIC EXCLUDE_FROM_ALL
+    "${source}/src/lib_json/json_reader.cpp"
+    "${source}/src/lib_json/json_value.cpp"
+    "${source}/src/lib_json/json_writer.cpp")
+  target_include_directories(rulecanvas_jsoncpp PUBLIC "$<BUILD_INTERFACE:${source}/include>")
+  target_compile_options(rulecanvas_jsoncpp PRIVATE ${rulecanvas_interface_options})
+  rulecanvas_mark_as_system(rulecanvas_jsoncpp)
+  add_library(JsonCpp::JsonCpp ALIAS rulecanvas_jsoncpp)
 endfunction()
 
+# A function, so that a dependency's own options can be set around the call without reaching this project.
 function(rulecanvas_provide_googletest)
   find_package(GTest CONFIG QUIET)
   if(TARGET GTest::gtest)
@@ -42,7 +42,9 @@ function(rulecanvas_provide_googletest)
   endif()
   set(BUILD_GMOCK OFF)
   set(INSTALL_GTEST OFF)
-  rulecanvas_build_from_source(googletest)
+  rulecanvas_require_source(googletest)
+  FetchContent_Declare(googletest)
+  FetchContent_MakeAvailable(googletest)
   rulecanvas_mark_as_system(gtest)
   rulecanvas_mark_as_system(gtest_main)
 endfunction()

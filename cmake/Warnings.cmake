@@ -1,7 +1,7 @@
-# Warnings for this project's own code; third-party headers are system headers and stay out of it.
+# Warnings for this project's own code, in its own build tree only; third-party headers are system headers and stay out
+# of it.
 # -Wnon-virtual-dtor is absent on purpose: the drawing surface is an abstract class without a virtual destructor,
 # because compilers lay virtual destructors out differently and hosts may be built by another one.
-add_library(rulecanvas_warnings INTERFACE)
 
 set(common_warnings
   -Wall
@@ -9,7 +9,6 @@ set(common_warnings
   -Werror
   -Wcast-align
   -Wconversion
-
   -Wformat=2
   -Wimplicit-fallthrough
   -Wold-style-cast
@@ -29,7 +28,7 @@ set(gcc_warnings
   -Wlogical-op
 )
 
-target_compile_options(rulecanvas_warnings INTERFACE
+add_compile_options(
   "$<$<COMPILE_LANGUAGE:CXX>:${common_warnings}>"
   "$<$<COMPILE_LANG_AND_ID:CXX,GNU>:${gcc_warnings}>"
 )

@@ -12,11 +12,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Hosts built by the other compiler enter with a stack aligned to 4 bytes only; floats are computed as on the other
-# targets.
-set(CMAKE_C_FLAGS_INIT "-mstackrealign -msse2 -mfpmath=sse")
-set(CMAKE_CXX_FLAGS_INIT "-mstackrealign -msse2 -mfpmath=sse")
-
 # Programs run from a bare prefix, where the compiler's own DLLs are not found.
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 

@@ -3,8 +3,9 @@
 # when nothing is missing the script says nothing and returns at once.
 #
 # usage: scripts/setup.sh [GROUP...]
-#   build   compilers for both targets, CMake, JsonCpp and its source for the cross build
-#   test    GoogleTest, Python for the samples of the documents, and 32-bit Wine with a prefix of the project's own
+#   build   compilers for the three targets, CMake, JsonCpp and its source for the cross builds
+#   test    GoogleTest, Python for the samples of the documents, what the examples draw with, and Wine for 32 and 64 bit
+#           with prefixes of the project's own
 #   fuzz    the run-time libraries of clang's sanitizers and fuzzer
 #   bench   Google Benchmark
 #   lint    clang-format and clang-tidy
@@ -16,7 +17,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=$root/build
 log=$build/setup.log
 jsoncpp=$build/deps/jsoncpp-src
-prefix=$build/wine-prefix
+wine_prefixes=("" 64) # what run-wine.sh and the names of the prefixes add for each
 step=0
 steps=0
 
@@ -28,11 +29,12 @@ select_group() {
     case $1 in
         build)
             packages+=(cmake ninja-build g++ clang lld llvm dpkg-dev libjsoncpp-dev
-                       g++-mingw-w64-i686-posix binutils-mingw-w64-i686)
+                       g++-mingw-w64-i686-posix binutils-mingw-w64-i686
+                       g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64)
             want_jsoncpp=true
             ;;
         test)
-            packages+=(googletest libgtest-dev python3 wine wine32:i386)
+            packages+=(googletest libgtest-dev wine wine32:i386 wine64 pkgconf libcairo2-dev python3 python3-pil)
             want_wine=true
             ;;
         fuzz) packages+=(clang llvm libclang-rt-dev) ;;
@@ -77,7 +79,14 @@ missing_packages() {
 
 jsoncpp_ready() { [[ -f $jsoncpp/CMakeLists.txt ]]; }
 
-wine_ready() { [[ -f $prefix/.complete ]]; }
+wine_prefix() { printf '%s/wine-prefix%s' "$build" "${1:+-$1}"; }
+
+wine_ready() {
+    local bits
+    for bits in "${wine_prefixes[@]}"; do
+        [[ -f $(wine_prefix "$bits")/.complete ]] || return 1
+    done
+}
 
 as_root() {
     if ((EUID == 0)); then
@@ -153,14 +162,19 @@ fetch_jsoncpp() {
     jsoncpp_ready || die_with_log "the JsonCpp source is missing: the source package holds no CMakeLists.txt"
 }
 
-create_wine_prefix() {
-    begin "creating the 32-bit Wine prefix (about 20 seconds)"
-    rm -rf "$prefix"
-    "$root/scripts/run-wine.sh" wineboot --init </dev/null >>"$log" 2>&1 ||
-        die_with_log "the Wine prefix is missing: wineboot failed"
-    # wineboot returns while its server still writes the registry.
-    WINEPREFIX=$prefix wineserver --wait
-    touch "$prefix/.complete"
+create_wine_prefixes() {
+    local bits prefix
+    begin "creating Wine prefixes for 32 and 64 bit (about 20 seconds each)"
+    for bits in "${wine_prefixes[@]}"; do
+        prefix=$(wine_prefix "$bits")
+        [[ ! -f $prefix/.complete ]] || continue
+        rm -rf "$prefix"
+        "$root/scripts/run-wine.sh" ${bits:+"--$bits"} wineboot --init </dev/null >>"$log" 2>&1 ||
+            die_with_log "the Wine prefix is missing: wineboot failed in $prefix"
+        # wineboot returns while its server still writes the registry.
+        WINEPREFIX=$prefix wineserver --wait
+        touch "$prefix/.complete"
+    done
 }
 
 count_steps() {
@@ -199,5 +213,5 @@ if ((${#missing[@]} > 0)); then
     ((${#missing[@]} == 0)) || die_with_log "these packages are missing and could not be installed: ${missing[*]}"
 fi
 if $want_jsoncpp && ! jsoncpp_ready; then fetch_jsoncpp; fi
-if $want_wine && ! wine_ready; then create_wine_prefix; fi
+if $want_wine && ! wine_ready; then create_wine_prefixes; fi
 say "done"

@@ -1,12 +1,13 @@
 #!/usr/bin/env bash
-# Builds the library natively with sanitizers and for Windows, runs both test suites (the latter under Wine) and ends
-# with one line that counts the test cases of both. A suite that cannot be built or runs no case counts as one failure.
+# Builds the library natively with sanitizers and for 32-bit and 64-bit Windows, runs the test suites of all three (the
+# latter two under Wine, and with them the tests of the package for users) and ends with one line that counts the test
+# cases of all. A suite that cannot be built or runs no case counts as one failure.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-presets=(native-asan windows-x86)
+presets=(native-asan windows-x86 windows-x64)
 steps=$((2 * ${#presets[@]} + 1))
 step=0
 total_passed=0

@@ -19,10 +19,10 @@
 /// while `thiscall` on a function that is no member is not for all. `self` is the target of the delegate.
 #if defined(_WIN32) && (defined(__i386__) || defined(_M_IX86))
 #define RULECANVAS_METHOD __fastcall
-#define RULECANVAS_SELF void *self, uintptr_t
+#define RULECANVAS_SELF void *self, uintptr_t // NOLINT(bugprone-macro-parentheses): parameters
 #else
 #define RULECANVAS_METHOD
-#define RULECANVAS_SELF void* self
+#define RULECANVAS_SELF void* self // NOLINT(bugprone-macro-parentheses): a parameter
 #endif
 
 namespace rulecanvas {

@@ -45,6 +45,8 @@
 #ifndef RULECANVAS_RULECANVAS_H
 #define RULECANVAS_RULECANVAS_H
 
+#include <rulecanvas/version.h>
+
 #include <stdint.h>
 
 #if defined(_WIN32) && (defined(__i386__) || defined(_M_IX86))

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <cstring>
 #include <string>
 
@@ -55,8 +56,12 @@ void WriteTrace(const char* line) {
 }
 
 uint32_t IssueIdentity(const void* object) {
-    static_assert(sizeof(object) == sizeof(uint32_t), "an address is an identity only where it fits");
-    return static_cast<uint32_t>(reinterpret_cast<uintptr_t>(object));
+    if constexpr (sizeof(object) == sizeof(uint32_t)) {
+        return static_cast<uint32_t>(reinterpret_cast<uintptr_t>(object));
+    } else {
+        static std::atomic<uint32_t> issued{0};
+        return ++issued;
+    }
 }
 
 } // namespace rulecanvas::platform

@@ -5,28 +5,7 @@
 extern "C" {
 int __cdecl _vsnprintf(char* buffer, size_t size, const char* format, va_list arguments);
 __declspec(noreturn) void __cdecl exit(int code);
-void __cdecl free(void* memory);
-void* __cdecl malloc(size_t size);
 int __cdecl printf(const char* format, ...);
-
-int _fltused = 1;
-
-void __cdecl _purecall() {
-    exit(2);
-}
-}
-
-void* __cdecl operator new(size_t size) {
-    return malloc(size);
-}
-void* __cdecl operator new[](size_t size) {
-    return malloc(size);
-}
-void __cdecl operator delete(void* memory) noexcept {
-    free(memory);
-}
-void __cdecl operator delete[](void* memory) noexcept {
-    free(memory);
 }
 
 namespace rulecanvas {
@@ -36,19 +15,6 @@ constexpr size_t Size = 8192;
 char journal[Size];
 size_t length = 0;
 int failures = 0;
-
-/// Calls `function` with a stack that stands `offset` bytes, a multiple of 4, below a multiple of 16: code of this
-/// compiler aligns it to 4 bytes only.
-__attribute__((naked)) void CallAtStackOffset(void(__cdecl*)(), unsigned) {
-    asm("pushl %ebp\n"
-        "movl %esp, %ebp\n"
-        "andl $-16, %esp\n"
-        "subl 12(%ebp), %esp\n"
-        "calll *8(%ebp)\n"
-        "movl %ebp, %esp\n"
-        "popl %ebp\n"
-        "retl");
-}
 
 } // namespace
 
@@ -81,11 +47,8 @@ void Expect(const char* what, bool met) {
 }
 
 extern "C" void __cdecl Start() {
-    for (unsigned offset = 0; offset < 16; offset += 4) {
-        printf("stack at a multiple of 16, less %u\n", offset);
-        CallAtStackOffset(&RunRawHost, offset);
-        CallAtStackOffset(&RunHelperHost, offset);
-    }
+    RunOnEveryStack(&RunRawHost);
+    RunOnEveryStack(&RunHelperHost);
     printf("%d failed\n", failures);
     exit(failures == 0 ? 0 : 1);
 }

@@ -71,6 +71,9 @@ class Canvas final : public Surface {
     }
 };
 
+/// Runs it with the stack at every place that code of this compiler may enter a function with.
+void RunOnEveryStack(void(__cdecl* run)());
+
 /// A host written against rulecanvas.h alone, with classes and method pointers as this compiler lays them out.
 void RunRawHost();
 /// A host written against host.hpp.
