@@ -130,6 +130,11 @@ std::string Host::TakeLog() {
     return taken;
 }
 
+void Host::Forget() {
+    endedShapes.clear();
+    std::string().swap(log);
+}
+
 void Host::Hear(Callback callback) {
     Require(alive || (callback == Callback::Drawing && painting > 0), "a call after the release of the container");
     if (inside) {

@@ -35,6 +35,8 @@ class Host {
     bool Captured() const { return captured; }
     /// Notifications and captures since the last call, in one text.
     std::string TakeLog();
+    /// Frees what this host itself remembers.
+    void Forget();
     /// Selects what "A" makes.
     void Use(const Figure& chosen) { figure = &chosen; }
 

@@ -3,6 +3,7 @@
 //     torture calls [FIRST [STRIDE]]          one call inside one callback of the life of a figure
 //     torture throws [FIRST [STRIDE]]         one callback that ends by an exception
 //     torture allocations [FIRST [STRIDE]]    one allocation of the library that fails
+//     torture repetition                      figures that come and go, and leave nothing in memory
 //     torture nesting [SEED [COUNT]]          anything inside callbacks inside callbacks
 //     torture threads [ROUNDS]                four threads beside each other
 //
@@ -28,6 +29,8 @@ int main(int argc, char** argv) {
         run = TryThrows(number(2, 0), number(3, 1));
     } else if (kind == "allocations") {
         run = TryAllocations(number(2, 0), number(3, 1));
+    } else if (kind == "repetition") {
+        run = TryRepetition();
     } else if (kind == "nesting") {
         run = TryNesting(number(2, 1), number(3, 100000));
     } else if (kind == "threads") {

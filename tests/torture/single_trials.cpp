@@ -116,4 +116,22 @@ long TryAllocations(long first, long stride) {
     });
 }
 
+long TryRepetition() {
+    long blocks = 0;
+    for (const Figure& figure : Figures()) {
+        BeginCase(std::string("again: ") + figure.type + " " + figure.option);
+        Host host;
+        host.Use(figure);
+        for (int life = 0; life < 3; ++life) {
+            for (const std::string& step : LifeOf(figure)) {
+                host.Do(step);
+            }
+            host.Forget();
+            Require(life < 2 || LiveBlocks() == blocks, "a container keeps nothing of the figures that it had");
+            blocks = LiveBlocks();
+        }
+    }
+    return static_cast<long>(Figures().size());
+}
+
 } // namespace rulecanvas::torture

@@ -10,6 +10,8 @@ long TryCalls(long first, long stride);
 long TryThrows(long first, long stride);
 /// One allocation that fails in one figure's life.
 long TryAllocations(long first, long stride);
+/// Figures that come and go, after which a container is as large as before.
+long TryRepetition();
 /// Hosts that do anything inside callbacks inside callbacks; trial and seed are the same number..
 long TryNesting(long first, long count);
 /// Four threads for so many rounds.
