@@ -67,6 +67,11 @@ class Canvas final : public IContainerGraphics {
     Host& host;
 };
 
+const char* NameOf(Callback callback) {
+    constexpr std::array<const char*, 6> names{"notify", "client rect", "capture", "hint", "redraw", "drawing"};
+    return names.at(static_cast<size_t>(callback));
+}
+
 Host::Host() : object{nullptr, this} {
     using Table = std::array<void (*)(void*, uint32_t), RULECANVAS_HOST_REQUEST_REDRAW + 1>;
     static const Table table = [] {
@@ -208,10 +213,11 @@ ShapeID Host::Add(const Figure& added, const char* configuration, const char* op
 }
 
 template <class Ending>
-void Host::End(const std::set<ShapeID>& ended, Ending call) {
+void Host::End(std::set<ShapeID> ended, Ending call) {
     ++ending;
-    endingShapes.insert(ended.begin(), ended.end());
-    call();
+    if (call()) {
+        endingShapes.insert(ended.begin(), ended.end());
+    }
     if (--ending == 0) {
         for (const ShapeID shape : endingShapes) {
             shapes.erase(shape);
@@ -222,17 +228,23 @@ void Host::End(const std::set<ShapeID>& ended, Ending call) {
 }
 
 void Host::Delete(ShapeID shape) {
-    End({shape}, [&] { Call(&DeleteVideoAnalyseShape, container, shape); });
+    End({shape}, [&] { return Call(&DeleteVideoAnalyseShape, container, shape) != 0; });
 }
 
 void Host::DeleteAll() {
-    End(shapes, [&] { Call(&DeleteAllVideoAnalyseShape, container); });
+    End(shapes, [&] {
+        Call(&DeleteAllVideoAnalyseShape, container);
+        return true;
+    });
 }
 
 void Host::Release() {
     const bool first = !releasing;
     releasing = true;
-    End(shapes, [&] { Call(&ReleaseVideoAnalyseContainer, container); });
+    End(shapes, [&] {
+        Call(&ReleaseVideoAnalyseContainer, container);
+        return true;
+    });
     alive = alive && !first;
 }
 
@@ -296,6 +308,8 @@ void Host::Do(const std::string& step) {
         return;
     case 'D':
         return Delete(subject);
+    case 'X':
+        return DeleteAll();
     default:
         Require(false, "a step that nobody knows");
     }
@@ -329,7 +343,9 @@ std::vector<std::string> LifeOf(const Figure& figure) {
     const std::string refit = "S400,300 F P S0,0 F P S800,600 F P ";
     const std::string anew = at('p', b, 0) + at('m', b, 1) + "W " + at('u', b, 0) + drawing;
     const std::string remove = at('a', b, 0) + at('R', b, 0) + at('r', b, 0) + "W " + drawing + "P " + at('p', b, 0);
-    std::istringstream in("B A " + drawing + "P C " + drag + move + leave + "k27 k65 " + refit + anew + remove + "D");
+    const std::string together = "A " + drawing + at('p', b, 0) + "A P X P";
+    std::istringstream in("B A " + drawing + "P C " + drag + move + leave + "k27 k65 " + refit + anew + remove + "D " +
+                          together);
     std::vector<std::string> steps;
     for (std::string step; in >> step;) {
         steps.push_back(step);

@@ -13,6 +13,8 @@ namespace rulecanvas::torture {
 /// Where the library calls into the host.
 enum class Callback { Notify, ClientRect, Capture, Hint, Redraw, Drawing };
 
+const char* NameOf(Callback callback);
+
 constexpr ViewID TheView = 7;
 
 /// A host with one container that watches what the library may not do: call into a host after its container was
@@ -45,8 +47,8 @@ class Host {
     ///                                                 (6 and 9), right down with Alt
     ///     kN                                          key
     ///     P, SX,Y, F                                  paint, new size of the view, refit
-    ///     A, B, C, W, D                               add the figure, add refused ones, add a copy of it and delete that,
-    ///                                                 draw it anew, delete it
+    ///     A, B, C, W, D, X                            add the figure, add refused ones, add a copy of it and delete that,
+    ///                                                 draw it anew, delete it, delete all
     void Do(const std::string& step);
     void DoAll(const std::string& steps);
 
@@ -83,8 +85,9 @@ class Host {
 
     void Hear(Callback callback);
     /// Runs a call that ends shapes; they are ended when the outermost such call returns.
+    /// `call` tells whether it did.
     template <class Ending>
-    void End(const std::set<ShapeID>& ending, Ending call);
+    void End(std::set<ShapeID> ended, Ending call);
     void Copy();
 
     friend class Canvas;

@@ -6,6 +6,7 @@
 #include "trial.h"
 #include "trials.h"
 
+#include <cctype>
 #include <stdexcept>
 
 namespace rulecanvas::torture {
@@ -36,30 +37,46 @@ long CallbacksOf(const Figure& figure) {
 /// Runs `disturb` inside the callback of that number of the host.
 template <class Disturb>
 void Arm(Host& host, long callback, Disturb disturb) {
-    host.inside = [&host, callback, disturb, seen = 0L](Callback) mutable {
+    host.inside = [&host, callback, disturb, seen = 0L](Callback kind) mutable {
         if (seen++ == callback) {
-            disturb(host);
+            AddToCase(NameOf(kind));
+            disturb(host, kind);
         }
     };
 }
 
-/// A life with a failure somewhere. After the step in which it happens the mouse is free if it would be undisturbed.
+/// Whether a failure happened, and what it may have cost.
+enum class Failure { None, InTheMiddle, BeforeTheFigureHeard };
+
+/// A life with a failure somewhere. After the step in which it happens the mouse is free if it would be undisturbed; a
+/// step of which the figure may not have heard is done again.
 template <class Failed>
-void LiveThroughFailure(Host& host, const Figure& figure, Failed failed, bool releaseAgain) {
+void LiveThroughFailure(Host& host, const Figure& figure, Failed failed) {
     const std::vector<std::string> life = LifeOf(figure);
     bool checked = false;
     host.Use(figure);
     for (size_t i = 0; i < life.size(); ++i) {
         host.Do(life[i]);
-        if (!checked && failed()) {
+        const bool isEvent = std::islower(static_cast<unsigned char>(life[i][0])) != 0;
+        const Failure failure = checked ? Failure::None : failed();
+        if (failure != Failure::None) {
             checked = true;
             AddToCase("step " + life[i]);
-            if (releaseAgain) {
-                host.Do("u200,200"); // the first release may not have reached the figure
+            if (!isEvent) {
+                continue;
+            }
+            if (failure == Failure::BeforeTheFigureHeard) {
+                host.Do(life[i]);
             }
             Require(ReferenceOf(figure).captured[i] || !host.Captured(), "the mouse is still captured");
         }
     }
+}
+
+/// Leaves in memory what stays there for good, such as the last error of a parser.
+void Settle(Host& host, const Figure& figure) {
+    CheckAfterwards(host, figure);
+    host.Do("B");
 }
 
 } // namespace
@@ -72,7 +89,7 @@ long TryCalls(long first, long stride) {
         AddToCase(std::string(action.name) + " in callback " + std::to_string(place / count));
         Host host;
         host.Use(figure);
-        Arm(host, place / count, [&](Host& inner) { action.run(inner, figure); });
+        Arm(host, place / count, [&](Host& inner, Callback) { action.run(inner, figure); });
         for (const std::string& step : LifeOf(figure)) {
             host.Do(step);
         }
@@ -84,13 +101,12 @@ long TryThrows(long first, long stride) {
     return ForEach(first, stride, &CallbacksOf, [](const Figure& figure, long place) {
         AddToCase("callback " + std::to_string(place));
         Host host;
-        bool thrown = false;
-        Arm(host, place, [&](Host&) {
-            thrown = true;
+        Failure failure = Failure::None;
+        Arm(host, place, [&](Host&, Callback callback) {
+            failure = callback == Callback::ClientRect ? Failure::BeforeTheFigureHeard : Failure::InTheMiddle;
             throw std::runtime_error("of the host");
         });
-        LiveThroughFailure(
-            host, figure, [&] { return thrown; }, false);
+        LiveThroughFailure(host, figure, [&] { return failure; });
         CheckAfterwards(host, figure);
     });
 }
@@ -98,7 +114,7 @@ long TryThrows(long first, long stride) {
 long TryAllocations(long first, long stride) {
     const auto placesOf = [](const Figure& figure) {
         Host host;
-        CheckAfterwards(host, figure); // makes what stays in memory for good
+        Settle(host, figure);
         return ReferenceOf(figure).allocations;
     };
     return ForEach(first, stride, placesOf, [](const Figure& figure, long place) {
@@ -107,10 +123,11 @@ long TryAllocations(long first, long stride) {
         {
             Host host;
             FailAllocation(place + 1);
-            LiveThroughFailure(
-                host, figure, [&] { return CountedAllocations() > place; }, true);
+            LiveThroughFailure(host, figure, [&] {
+                return CountedAllocations() > place ? Failure::BeforeTheFigureHeard : Failure::None;
+            });
             FailAllocation(0);
-            CheckAfterwards(host, figure);
+            Settle(host, figure);
         }
         Require(LiveBlocks() == blocks, "nothing is left in memory");
     });

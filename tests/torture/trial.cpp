@@ -54,6 +54,9 @@ void CheckAfterwards(Host& host, const Figure& figure) {
     });
     host.Reset();
     Require(HasNoShapes(host), "no shape outlives its deletion");
+    host.inside = [](Callback callback) { Require(callback != Callback::Drawing, "nothing is left to be drawn"); };
+    host.Paint();
+    host.inside = nullptr;
     Require(DrawFresh(host, figure) == expected, "a new figure is drawn as on the first day");
 }
 
