@@ -1,22 +1,26 @@
 #!/usr/bin/env bash
-# Builds the library natively with sanitizers and for 32-bit and 64-bit Windows, runs the test suites of all three (the
-# latter two under Wine, and with them the tests of the package for users) and ends with one line that counts the test
-# cases of all. A suite that cannot be built or runs no case counts as one failure.
+# Everything that guards main: the library natively with sanitizers and for 32-bit and 64-bit Windows (under Wine, and with
+# them the tests of the package for users), the scripts of the sample host, and the checks of the sources. Ends with one line that counts the test cases of all. A step that cannot be built or
+# runs no case counts as one failure.
+#
+# usage: scripts/test.sh [STEP...]
+# Without a step: all of them, in the order of the table below.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-presets=(native-asan windows-x86 windows-x64)
-steps=$((2 * ${#presets[@]} + 1))
-step=0
+# A name, and a command. A command whose last line is "N passed, N failed" counts with that, any other one as one case.
+steps=(
+    "native-asan:test_preset native-asan"
+    "native-tsan:test_preset native-tsan"
+    "windows-x86:test_preset windows-x86"
+    "windows-x64:test_preset windows-x64"
+    "editor:scripts/demo.sh --headless"
+    "lint:scripts/lint.sh"
+)
 total_passed=0
 total_failed=0
-
-begin() {
-    step=$((step + 1))
-    printf 'test: [%d/%d] %s\n' "$step" "$steps" "$*"
-}
 
 # Counts the cases in the verbose output of ctest and shows how far it is. A test of ctest that runs a whole GoogleTest
 # program counts with each case inside it; a program that ends badly is a failure even when none of its cases failed.
@@ -53,15 +57,14 @@ show_failures() {
     done
 }
 
-build_preset() {
-    begin "building $1"
-    cmake --preset "$1" >/dev/null && cmake --build --preset "$1" -j2
-}
-
-run_tests() {
+# Builds a preset and runs its tests.
+test_preset() {
     local preset=$1 log=build/$1/test.log status=0 counts passed failed
 
-    begin "running the tests of $preset"
+    if ! cmake --preset "$preset" >/dev/null || ! cmake --build --preset "$preset" -j2; then
+        printf 'test:       %s could not be built: its tests did not run\n' "$preset"
+        return 1
+    fi
     counts=$(ctest --preset "$preset" -V -j2 2>&1 | tee "$log" | awk "$count_cases") || status=$?
     read -r passed failed <<<"$counts"
     if ((passed + failed == 0)); then
@@ -71,26 +74,49 @@ run_tests() {
         printf 'test:       ctest failed in %s\n' "$preset"
         failed=1
     fi
-    printf 'test:       %s: %d passed, %d failed\n' "$preset" "$passed" "$failed"
     if ((failed > 0)); then
         show_failures "$log"
         printf 'test:       the whole output is in %s\n' "$log"
     fi
+    printf '%d passed, %d failed\n' "$passed" "$failed"
+    ((failed == 0))
+}
+
+# Runs the command of a step and adds what it counted.
+run_step() {
+    local name=$1 log=build/test-$1.log passed=0 failed=0 status=0 started=$SECONDS
+    shift
+    "$@" 2>&1 | tee "$log" || status=$?
+    if [[ $(tail -n 1 "$log") =~ ^([0-9]+)\ passed,\ ([0-9]+)\ failed$ ]]; then
+        passed=${BASH_REMATCH[1]}
+        failed=${BASH_REMATCH[2]}
+    elif ((status == 0)); then
+        passed=1
+    fi
+    if ((status != 0 && failed == 0)); then failed=1; fi
+    printf 'test:       %s: %d passed, %d failed, %d seconds\n' "$name" "$passed" "$failed" $((SECONDS - started))
     total_passed=$((total_passed + passed))
     total_failed=$((total_failed + failed))
 }
 
-begin "checking the machine"
-scripts/setup.sh build test
+# The steps with the given names, or all.
+chosen=()
+for step in "${steps[@]}"; do
+    if (($# == 0)) || [[ " $* " == *" ${step%%:*} "* ]]; then chosen+=("$step"); fi
+done
+if ((${#chosen[@]} == 0)); then
+    printf 'test: no such step; there are: %s\n' "${steps[*]%%:*}" >&2
+    exit 1
+fi
 
-for preset in "${presets[@]}"; do
-    if build_preset "$preset"; then
-        run_tests "$preset"
-    else
-        printf 'test:       %s could not be built: its tests did not run\n' "$preset"
-        step=$((step + 1))
-        total_failed=$((total_failed + 1))
-    fi
+printf 'test: checking the machine\n'
+mkdir -p build
+scripts/setup.sh build test
+for ((number = 0; number < ${#chosen[@]}; ++number)); do
+    name=${chosen[number]%%:*}
+    printf 'test: [%d/%d] %s\n' $((number + 1)) ${#chosen[@]} "$name"
+    # shellcheck disable=SC2086 # the words of the command
+    run_step "$name" ${chosen[number]#*:}
 done
 
 printf '%d passed, %d failed\n' "$total_passed" "$total_failed"

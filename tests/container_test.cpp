@@ -34,7 +34,9 @@ TEST(Exports, AnswerUnknownContainersAndShapesAsEachIsDocumented) {
     EXPECT_EQ(SetVideoAnalyseShapeDirection(container, known, 1), 0) << "no parent";
     EXPECT_NE(host.Config(known), "") << "and the known one is as it was";
 
-    for (const ContainerHandle unknown : {0U, container + 1U, ~0U}) {
+    const ContainerHandle released = CreateVideoAnalyseContainer(nullptr);
+    ReleaseVideoAnalyseContainer(released);
+    for (const ContainerHandle unknown : {0U, released, ~0U}) {
         CDelegate words{nullptr, nullptr};
         ContainerHandlerHolder holder{nullptr, nullptr};
         ReleaseVideoAnalyseContainer(unknown);

@@ -59,12 +59,16 @@ TEST(Cross, IsDraggedByItsBoxOrFromAnywhereWhenItIsAlone) {
 TEST(Cross, ReadsHowManyThereAre) {
     for (const auto& [config, word, crosses] :
          {Row{R"({"rule":[[1,2],null]})", "7", "[1,2],[0,0]"}, Row{R"({"rule":[]})", "", ""},
-          Row{"{}", "2", "[0,0],[0,0]"}, Row{"{}", "-5", "[0,0]"}, Row{"{}", "2000000000", "[0,0]"}}) {
+          Row{"{}", "2", "[0,0],[0,0]"}, Row{"{}", "-5", "[0,0]"}, Row{"{}", "2000000000", "[0,0]"},
+          Row{"{}", "1025", "[0,0]"}}) {
         ScenarioHost host(GridView, GridView);
         const std::string expected = std::string(R"({"rule":[)") + crosses + "]}";
         EXPECT_EQ(host.Config(host.Add("CrossShape", config, word)), expected) << config << word;
     }
     EXPECT_EQ(ScenarioHost().Add("CrossShape", "{"), 0U);
+    ScenarioHost host;
+    const std::string most = host.Config(host.Add("CrossShape", "{}", "1024"));
+    EXPECT_EQ(std::count(most.begin(), most.end(), '['), 1025);
 }
 
 TEST(BigCross, SpansThePictureAtTwoPlacesAndIsWrittenAsBands) {
@@ -73,6 +77,7 @@ TEST(BigCross, SpansThePictureAtTwoPlacesAndIsWrittenAsBands) {
     ShapeID shape = host.Add("BigCrossShape");
     host.container.SetPointLimits(shape, 5, 0); // two it stays
     host.Click(4000, 3000);
+    EXPECT_EQ(host.Config(shape), "") << "one is missing";
     host.Click(100, 200);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture on", "state rule 2>3"}));
     EXPECT_EQ(host.Config(shape), bands);
@@ -207,6 +212,7 @@ TEST(Spot, IsAnOutlineOrSolidOfItsRadius) {
     }
     ScenarioHost host;
     EXPECT_EQ(host.Add("SpotShape", "{}"), 0U);
+    EXPECT_EQ(host.Add("SpotShape", R"({"rule":[[40,50]])"), 0U);
     EXPECT_NE(host.Add("SpotShape", R"({"rule":[]})"), 0U);
     host.Click(10, 10);
     EXPECT_EQ(host.Paint(), Lines{}) << "placed, but never drawn";
@@ -275,6 +281,10 @@ TEST(Oval, IsMovedByTheInsideOfItsRectangle) {
     host.Move(5, 126.5F); // a step out of the view is refused
     host.Release(5, 126.5F);
     EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 4>3", "capture off"}));
+    for (const PointF& border : {PointF{130, 120.5F}, PointF{130, 200.5F}, PointF{110.5F, 140}, PointF{210.5F, 140}}) {
+        host.Click(border.x, border.y);
+        EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", "state rule 4>3", "capture off"}));
+    }
     host.Click(108, 140); // on the edge, but outside
     host.container.ShowHandles(shape);
     host.Click(300, 300); // also hides the handles of an unselected oval

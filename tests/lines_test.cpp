@@ -63,6 +63,25 @@ TEST(Line, BeginsInTheViewAndEndsThereToo) {
     EXPECT_EQ(host.Paint()[0], "line (780,300)-(800,600) w2 yellow");
 }
 
+TEST(Line, IsDrawnToAPointerOnTheBorderButNotToOneThatAResizeLeftOutside) {
+    using Pointer = std::tuple<PointF, PointF, size_t>; // the pointer, the size of the view after its move, strokes
+    for (const char* type : {"LineShape", "ArrowLineShape", "XLineShape", "DashLineShape"}) {
+        for (const auto& [pointer, size, strokes] :
+             {Pointer{{0, 0}, {800, 600}, 1}, Pointer{{800, 600}, {800, 600}, 1}, Pointer{{800, 300}, {799, 600}, 0},
+              Pointer{{400, 600}, {800, 599}, 0}, Pointer{{400, 300}, {400, 300}, 1}}) {
+            ScenarioHost host;
+            host.container.ShowHandles(host.Add(type), false);
+            host.Press(100, 100);
+            host.Move(pointer.x, pointer.y);
+            host.Resize(static_cast<int>(size.x), static_cast<int>(size.y));
+            Lines drawn = host.Paint();
+            drawn.erase(std::remove_if(drawn.begin(), drawn.end(), [](const auto& call) { return call[0] != 'l'; }),
+                        drawn.end());
+            EXPECT_EQ(drawn.size(), strokes) << type << Written(pointer);
+        }
+    }
+}
+
 TEST(Line, ReadsItsConfigurationOrRefusesIt) {
     for (const auto& [name, points, readBack] :
          {Row{"a", "[[1.9,2],[3,4],[\"x\"]]", "[[1,2],[3,4]]"}, Row{"a", "[[1,2]]", ""}, Row{"a", "[", ""},
@@ -164,6 +183,18 @@ TEST(Line, IsHitOnItsSegmentsAloneAndDeselectedByAnyOtherPress) {
     host.Press(204, 100); // near the end, but not near the segment
     EXPECT_EQ(host.Paint()[0], "line (100,100)-(200,100) w2 blue");
     EXPECT_EQ(host.TakeLog(), Lines{}) << "neither press could grab it";
+    const auto isHit = [&](const char* points, const PointF& press) {
+        host.container.DeleteAllShapes();
+        host.container.SelectShape(host.Add("LineShape", R"({"rule":[)" + std::string(points) + "]}"), false);
+        host.Click(press.x, press.y);
+        return host.container.SelectedShape() != 0;
+    };
+    for (const char* flat : {"[100,100],[300,150]", "[300,150],[100,100]"}) { // up and down, not across
+        EXPECT_TRUE(isHit(flat, {200, 129})) << flat;
+        EXPECT_FALSE(isHit(flat, {200, 129.5F})) << flat;
+        EXPECT_TRUE(isHit(flat, {200, 121})) << flat;
+        EXPECT_FALSE(isHit(flat, {200, 120.5F})) << flat;
+    }
 }
 
 TEST(Line, ShowsTheDirectionOfCrossingAndATripwireItsSidesToo) {
@@ -215,6 +246,18 @@ TEST(XLine, IsDrawnPointByPointAndFinishedByTheRightButton) {
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "state rule 2>3", "capture off"}));
     host.container.SelectShape(shape, false);
     EXPECT_EQ(host.Paint()[1], "line (100,100)-(200,100) w4 blue") << "as thick as when selected";
+}
+
+TEST(ArrowLine, ThatMayBendIsFinishedByTheRightButton) {
+    ScenarioHost host(GridView, GridView);
+    const ShapeID shape = host.Add("ArrowLineShape", "", R"({"XArrowLine":true})");
+    for (const PointF& corner : {PointF{100, 100}, PointF{200, 100}, PointF{200, 200}}) {
+        host.Click(corner.x, corner.y);
+    }
+    EXPECT_EQ(host.TakeLog(), Lines{"capture on"});
+    host.RightPress(9, 9);
+    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>3", "capture off"}));
+    EXPECT_EQ(host.Config(shape), R"({"rule":[[100,100],[200,100],[200,200]]})");
 }
 
 TEST(DashLine, HasOneThicknessNoMarkAndAlwaysACaption) {

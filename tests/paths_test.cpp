@@ -114,6 +114,14 @@ TEST(Paths, AreReshapedMovedDeletedAndGivenVertices) {
         {"Polygon", "", Square, "press 150 150 move 130 140 move 20 130 move 129 150 release 9 9", Moved,
          "79,100 179,100 179,200 79,200"},
         {"Polygon", "", Square, "right 150 150 right 200 150", {}, Square},
+        // A corner at the height of the press lies to the right of it, then to the left, then to both sides.
+        {"Polygon", "", "100,100 200,150 100,200", "press 90 150", {}, "100,100 200,150 100,200"},
+        {"Polygon", "", "100,150 200,100 200,200", "press 210 150", {}, "100,150 200,100 200,200"},
+        {"Polygon", "", "150,100 200,150 150,200 100,150", "press 150 150 release 150 150", Moved,
+         "150,100 200,150 150,200 100,150"},
+        {"Polygon", "", "150,100 200,150 150,200 100,150", "press 90 150", {}, "150,100 200,150 150,200 100,150"},
+        {"Polygon", "", Square, "press 90 100", {}, Square},
+        {"Polygon", "", Square, "press 90 200", {}, Square},
         {"Polygon", "EnableRBtnDelete", Square, "right 250 150 right 150 150 right 150 150", Removed, ""},
         {"Polygon", "EnableRBtnDelete", Square, "right 203 150", Removed, ""},
 
@@ -136,6 +144,28 @@ TEST(Paths, AreReshapedMovedDeletedAndGivenVertices) {
         {"VirablePolygon", "Convex", Hook, "right 150 103", {}, "100,100 150,103 200,100 200,200"},
         {"VirablePolygon", "EnableRBtnDelete", Hook, "right 180 120", {}, Hook}, // right presses are for vertices
     });
+}
+
+TEST(Paths, NeedAsManyPointsAsTheHostAsksFor) {
+    for (const char* type : {"Polygon", "BrokenLine"}) {
+        for (const auto& [minimum, needed] : {std::make_pair(4, 4), std::make_pair(5, 5), std::make_pair(3, 3)}) {
+            ScenarioHost host(GridView, GridView);
+            const ShapeID shape = host.Add(type);
+            host.container.SetPointLimits(shape, 10, minimum);
+            int points = 0;
+            for (const PointF& corner :
+                 {PointF{100, 100}, PointF{200, 100}, PointF{250, 150}, PointF{200, 200}, PointF{100, 200}}) {
+                host.Click(corner.x, corner.y);
+                host.TakeLog();
+                host.RightPress(9, 9);
+                ++points;
+                if (!host.TakeLog().empty()) {
+                    break;
+                }
+            }
+            EXPECT_EQ(points, needed) << type;
+        }
+    }
 }
 
 TEST(Paths, AreDrawnOnTheSurface) {
@@ -196,6 +226,17 @@ TEST(Polygon, PointsAcrossItsFirstEdge) {
             tips += drawn[i].substr(10, drawn[i].find(')') - 10) + " ";
         }
         EXPECT_EQ(tips, expected) << points;
+    }
+}
+
+TEST(Polygon, TakesTheDirectionsOfAStyle) {
+    for (const int direction : {-2, -1, 0, 5, 6}) {
+        ScenarioHost host(GridView, GridView);
+        const std::string style = "{\"Direction\":" + std::to_string(direction) + "}";
+        host.container.ShowHandles(host.Add("Polygon", Rule(Hook), style), false);
+        const Lines drawn = host.Paint();
+        const auto marks = std::count(drawn.begin(), drawn.end(), "line (150,80)-(150,120) w2 yellow");
+        EXPECT_EQ(marks, direction >= 0 && direction <= 5 ? 1 : 0) << direction;
     }
 }
 

@@ -152,7 +152,11 @@ TEST(Rectangle, ReadsItsConfigurationOrRefusesIt) {
         EXPECT_EQ(shape == 0 ? Refused : host.Config(shape), readBack) << config;
     }
     ScenarioHost host;
-    EXPECT_EQ(host.Add("Rect", std::string(100000, '[')), 0U) << "too deep, not too much for the stack";
+    for (const size_t depth : {99U, 100U, 100000U}) { // the rectangle is one level deeper
+        const std::string nested = std::string(depth, '[') + std::string(depth, ']');
+        const ShapeID shape = host.Add("Rect", R"({"rule":[[1,1],[90,90]],"x":)" + nested + "}");
+        EXPECT_EQ(shape != 0, depth < 100) << depth << ": too deep for the stack of a host";
+    }
 }
 
 TEST(Rectangle, CopiesItsConfigurationOnlyIntoABufferThatHoldsAllOfIt) {
@@ -175,14 +179,21 @@ TEST(Rectangle, DrawsAsItsStyleSays) {
     const char* incomplete =
         R"({"ShapeColor":[{"ColorName":"SelColor","R":1,"G":2,"B":3},{"ColorName":"UnSelColor","R":9,"G":8},)"
         R"({"ColorName":"Other","R":1,"G":1,"B":1},{"R":4,"G":4,"B":4}],"LineThickness":3.0,"PenStyle":"1"})";
-    for (const auto& [option, whenSelected, whenDeselected] : {
-             Case{R"({"LineThickness":5,"UnSelLineThickness":3})", " w5 yellow", " w3 blue"},
-             Case{R"({"LineThickness":5,"PenStyle":1})", " w1 yellow dashed", " w1 blue dashed"},
-             Case{incomplete, " w2 1,2,3", " w2 blue"},
-             Case{R"({"ShapeColor":[7,"x",[],{"ColorName":"SelColor","R":1,"G":2,"B":3}]})", " w2 1,2,3", " w2 blue"},
-             Case{R"({"LineThickness":7,})", " w2 yellow", " w2 blue"},
-             Case{"TextOnly,EnableRBtnDelete", " w2 yellow", " w2 blue"},
-         }) {
+    for (
+        const auto& [option, whenSelected, whenDeselected] : {
+            Case{R"({"LineThickness":5,"UnSelLineThickness":3})", " w5 yellow", " w3 blue"},
+            Case{R"({"LineThickness":5,"PenStyle":1})", " w1 yellow dashed", " w1 blue dashed"},
+            Case{incomplete, " w2 1,2,3", " w2 blue"},
+            Case{R"({"ShapeColor":[7,"x",[],{"ColorName":"SelColor","R":1,"G":2,"B":3}]})", " w2 1,2,3", " w2 blue"},
+            Case{
+                R"({"ShapeColor":[{"ColorName":"UnSelColor","R":9,"G":8,"B":7},{"ColorName":"SelColor","G":8,"B":7}]})",
+                " w2 yellow", " w2 9,8,7"},
+            Case{R"({"ShapeColor":[{"ColorName":"FillColor","R":9,"G":8,"B":7},{"ColorName":"SelColor","R":8,"B":7},)"
+                 R"({"ColorName":"FontColor","R":9,"G":8,"B":7}]})",
+                 " w2 yellow", " w2 blue"},
+            Case{R"({"LineThickness":7,})", " w2 yellow", " w2 blue"},
+            Case{"TextOnly,EnableRBtnDelete", " w2 yellow", " w2 blue"},
+        }) {
         ScenarioHost host(GridView, GridView);
         const ShapeID shape = host.Add("Rect", R"({"rule":[[0,0],[20,20]]})", option);
         EXPECT_EQ(host.Paint()[1], std::string("rect (0,0)-(20,20)") + whenSelected);
@@ -223,6 +234,10 @@ TEST(Rectangle, FollowsTheSizeOfItsView) {
     host.Drag({100, 60}, {200, 150});
     host.Resize(800, 150);
     EXPECT_EQ(host.Paint(), SelectedRectangle({200, 30}, {400, 75}));
+    host.Resize(800, 300); // the height alone
+    EXPECT_EQ(host.Paint(), SelectedRectangle({200, 60}, {400, 150}));
+    host.Resize(800, 150);
+    host.Paint();
     for (const ClientRect& empty : {ClientRect{0, 0, 0, 0}, ClientRect{0, 0, -5, 100}, ClientRect{50, 0, 50, 100}}) {
         host.clientRect = empty;
         EXPECT_EQ(host.Paint(), SelectedRectangle({200, 30}, {400, 75})) << "a minimised window collapses nothing";

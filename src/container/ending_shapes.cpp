@@ -10,15 +10,18 @@ constexpr int PauseBeforeEnd = 10;
 
 } // namespace
 
-void EndingShapes::Add(const ShapePtr& shape) {
+void EndingShapes::Add(const ShapePtr& shape) noexcept {
     if (shape->ClaimRetirement()) {
         AddClaimed(shape);
     }
 }
 
-void EndingShapes::AddClaimed(const ShapePtr& shape) {
+void EndingShapes::AddClaimed(const ShapePtr& shape) noexcept {
     shape->Retire();
-    shapes.push_back(shape);
+    try {
+        shapes.push_back(shape);
+    } catch (...) { // without memory for the wait, the figure is freed with the shape, after the last paint of it
+    }
 }
 
 EndingShapes::~EndingShapes() {

@@ -16,9 +16,9 @@ class EndingShapes {
     EndingShapes& operator=(const EndingShapes&) = delete;
 
     /// Ends the shape, unless that was claimed already.
-    void Add(const ShapePtr& shape);
+    void Add(const ShapePtr& shape) noexcept;
     /// Ends a shape whose end the caller has claimed.
-    void AddClaimed(const ShapePtr& shape);
+    void AddClaimed(const ShapePtr& shape) noexcept;
 
   private:
     std::vector<ShapePtr> shapes;

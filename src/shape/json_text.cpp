@@ -47,6 +47,7 @@ class Writer {
   public:
     std::string Write(const Json::Value& value) {
         std::ostringstream out;
+        out.exceptions(std::ios::badbit); // a text that memory did not suffice for must not pass for a whole one
         platform::LockGuard guard(mutex);
         writer->write(value, &out);
         out << '\n';
