@@ -17,7 +17,8 @@ work=$root/build/mutate
 patience=60
 # Each line is a program with its arguments. The first ones notice most.
 commands=("scenario_tests --gtest_brief=1 --gtest_fail_fast" "class_tests --gtest_brief=1 --gtest_fail_fast"
-          "cost_tests --gtest_brief=1 --gtest_fail_fast" "torture repetition" "torture calls 0 997" "torture throws 0 29" "torture allocations 0 101")
+          "cost_tests --gtest_brief=1 --gtest_fail_fast" "torture repetition" "torture calls 0 997"
+          "torture throws 0 29" "torture allocations 0 101")
 
 say() { printf 'mutate: %s\n' "$*"; }
 
