@@ -17,7 +17,8 @@ work=$root/build/mutate
 patience=60
 # Each line is a program with its arguments. The first ones notice most.
 commands=("scenario_tests --gtest_brief=1 --gtest_fail_fast" "class_tests --gtest_brief=1 --gtest_fail_fast"
-          "torture repetition" "torture calls 0 997" "torture throws 0 29" "torture allocations 0 101")
+          "cost_tests --gtest_brief=1 --gtest_fail_fast" "torture repetition" "torture calls 0 997"
+          "torture throws 0 29" "torture allocations 0 101")
 
 say() { printf 'mutate: %s\n' "$*"; }
 
@@ -69,7 +70,7 @@ prepare_copy() {
         build_copy "$tree"
 }
 
-build_copy() { cmake --build "$1/build" -j1 --target scenario_tests class_tests torture >"$1.log" 2>&1; }
+build_copy() { cmake --build "$1/build" -j1 --target scenario_tests class_tests cost_tests torture >"$1.log" 2>&1; }
 
 # Whether a command of the list, in the copy, ends well in time.
 run_command() {

@@ -1,0 +1,208 @@
+// Two scenes to which the same happens. In one a press asks only the figures near it, in the other every figure.
+
+#pragma once
+
+#include "container/container.h"
+
+#include <functional>
+#include <string>
+
+namespace rulecanvas::test {
+
+constexpr int ViewWidth = 400;
+constexpr int ViewHeight = 300;
+constexpr uint32_t HostTableSize = RULECANVAS_HOST_REQUEST_REDRAW + 1;
+
+/// A host that answers nothing but its client rectangle, and counts the hints.
+struct QuietHost {
+    using Operation = void(RULECANVAS_THISCALL*)(void*, uint32_t);
+
+    const Operation* table = Table();
+    int hints = 0;
+
+    static void RULECANVAS_THISCALL Hint(void* self, uint32_t /*value*/) { ++static_cast<QuietHost*>(self)->hints; }
+    static void RULECANVAS_THISCALL Ignore(void* /*self*/, uint32_t /*value*/) {}
+    static const Operation* Table() {
+        static Operation operations[HostTableSize] = {};
+        operations[RULECANVAS_HOST_SET_INTERACTION_HINT] = &Hint;
+        operations[RULECANVAS_HOST_REQUEST_REDRAW] = &Ignore;
+        return operations;
+    }
+    static void RULECANVAS_THISCALL ReportRect(void* /*self*/, ViewID /*view*/, ClientRect* out) {
+        *out = ClientRect{0, 0, ViewWidth, ViewHeight};
+    }
+};
+
+struct Scene {
+    QuietHost host;
+    CVideoAnalyseContainer container{&host};
+
+    Scene() {
+        container.SetClientRectDelegate(CDelegate{&host, reinterpret_cast<void*>(&QuietHost::ReportRect)});
+        container.Enable(true);
+    }
+    ~Scene() { container.Close(); }
+};
+
+/// The press as it is described: every enabled figure of the view in turn, the strongest claim wins. The level.
+inline int PressAskingAll(CVideoAnalyseContainer& container, const ContainerMouseEvent& event) {
+    const bool isLeft = event.code == RULECANVAS_MOUSE_LEFT_DOWN;
+    ShapePtr winner;
+    int best = Miss;
+    for (const ShapePtr& shape : container.ShapesInOrder()) {
+        if (!shape->IsEnabled() || shape->GetViewId() != event.viewId) {
+            continue;
+        }
+        int level = Miss;
+        const auto* answering =
+            isLeft ? shape->HitTestLButtonDown(event, level) : shape->HitTestRButtonDown(event, level);
+        if (isLeft && answering != nullptr && level == Outside && shape->IsSelected()) {
+            shape->SelectShape(false, 1);
+        }
+        if (best < level) {
+            best = level;
+            winner = shape;
+        }
+    }
+    if (winner != nullptr && isLeft) {
+        winner->HandleLButtonDownEvent(PointerEvent(event, container.GetClientRect(event.viewId)), best);
+    } else if (winner != nullptr) {
+        winner->HandleRButtonEvent(event, best);
+    }
+    return best;
+}
+
+inline std::string Described(CVideoAnalyseContainer& container) {
+    std::string text;
+    for (const ShapePtr& shape : container.ShapesInOrder()) {
+        Points points;
+        shape->GetShapePoints(points);
+        text += std::to_string(shape->GetState()) + (shape->IsSelected() ? "s" : "") + "[";
+        for (const PointF& point : points) {
+            text += std::to_string(point.x) + "," + std::to_string(point.y) + " ";
+        }
+        text += "] ";
+    }
+    return text;
+}
+
+/// Plays the same events on a scene that is asked near the press and on one that is asked whole.
+class TwoScenes {
+  public:
+    /// `choices` decide what happens: a number from 0 up to below the given one.
+    explicit TwoScenes(std::function<int(int)> choices) : source(std::move(choices)) {}
+
+    /// Lets one thing happen. Whether both scenes are the same afterwards.
+    bool Step() {
+        Happen();
+        return sameLevel && Described(fast.container) == Described(plain.container);
+    }
+
+  private:
+    int Pick(int limit) { return source(limit); }
+    PointF Place() {
+        return {static_cast<float>(Pick(2 * ViewWidth)) / 2 - 2, static_cast<float>(Pick(2 * ViewHeight)) / 2 - 2};
+    }
+    ViewID View() { return static_cast<ViewID>(Pick(8) == 0 ? 1 : 0); }
+
+    void Happen() {
+        switch (Pick(16)) {
+        case 0:
+        case 1:
+            return Add();
+        case 2:
+            return ChangeOne();
+        case 3:
+            return Both([&](CVideoAnalyseContainer& container) { container.InvalidateAll(); });
+        case 4:
+        case 5:
+        case 6:
+            return Send(RULECANVAS_MOUSE_MOVED);
+        case 7:
+        case 8:
+        case 9:
+            return Send(RULECANVAS_MOUSE_LEFT_UP);
+        case 10:
+            return Press(RULECANVAS_MOUSE_RIGHT_DOWN);
+        default:
+            return Press(RULECANVAS_MOUSE_LEFT_DOWN);
+        }
+    }
+
+    template <class Call>
+    void Both(Call call) {
+        call(fast.container);
+        call(plain.container);
+    }
+
+    void Add() {
+        static const char* const types[] = {"Rect",           "OvalShape",        "PixelCountShape", "LineShape",
+                                            "DashLineShape",  "XLineShape",       "ArrowLineShape",  "BrokenLine",
+                                            "VirablePolygon", "Polygon",          "CrossShape",      "BigCrossShape",
+                                            "SpotShape",      "VerticalLineShape"};
+        static const char* const options[] = {"", "EnableRBtnDelete", "Convex", "2"};
+        const char* type = types[Pick(static_cast<int>(std::size(types)))];
+        const char* option = options[Pick(static_cast<int>(std::size(options)))];
+        const auto corner = [&] { return "[" + std::to_string(Pick(9000)) + "," + std::to_string(Pick(9000)) + "]"; };
+        const std::string points = "[" + corner() + "," + corner() + "]";
+        const std::string config = Pick(3) == 0 ? "" : R"({"rule":)" + points + R"(,"OvalShape":)" + points + "}";
+        const ViewID view = View();
+        Both([&](CVideoAnalyseContainer& container) {
+            container.CreateMainShape(view, "", type, "rule", config.c_str(), option);
+        });
+    }
+
+    void ChangeOne() {
+        const int which = Pick(6);
+        const int place = Pick(20);
+        Both([&](CVideoAnalyseContainer& container) {
+            int at = 0;
+            for (const ShapePtr& shape : container.ShapesInOrder()) {
+                if (at++ != place) {
+                    continue;
+                }
+                const ShapeID id = shape->GetShapeId();
+                switch (which) {
+                case 0:
+                    container.DeleteShape(id);
+                    break;
+                case 1:
+                    container.EnableShape(id, shape->IsEnabled() == (at % 2 == 0));
+                    break;
+                case 2:
+                    container.SelectShape(id, at % 2 == 0);
+                    break;
+                case 3:
+                    container.RedrawShape(id);
+                    break;
+                default:
+                    container.SetShapeMaxPtNum(id, at % 4, 3);
+                    break;
+                }
+            }
+        });
+    }
+
+    void Send(uint32_t code) {
+        const PointF at = Place();
+        const ViewID view = View();
+        Both([&](CVideoAnalyseContainer& container) { container.OnMouseEvent({code, view, 0, at.x, at.y, 0, 0}); });
+    }
+
+    void Press(uint32_t code) {
+        const PointF at = Place();
+        const ContainerMouseEvent event{code, View(), 0, at.x, at.y, 0, 0};
+        fast.container.OnMouseEvent(event);
+        const int level = PressAskingAll(plain.container, event);
+        const int before = fast.host.hints;
+        fast.container.OnMouseEvent({RULECANVAS_MOUSE_CURSOR_QUERY, event.viewId + 2, 0, at.x, at.y, 0, 0});
+        sameLevel = fast.host.hints - before == (level == Inside || level == OnOutline ? 1 : 0);
+    }
+
+    const std::function<int(int)> source;
+    bool sameLevel = true;
+    Scene fast;
+    Scene plain;
+};
+
+} // namespace rulecanvas::test
