@@ -103,6 +103,16 @@ std::string OptionProblem(const std::string& type, const std::string& option) {
     return std::string();
 }
 
+void ChooseReadableColours(Rule& rule) {
+    constexpr Colour Selected = {255, 214, 10};
+    constexpr Colour Unselected = {64, 224, 255};
+    if (OptionSets(rule.option, "ShapeColor")) {
+        return;
+    }
+    rule.selectedColour = rule.selectedColour.value_or(Selected);
+    rule.unselectedColour = rule.unselectedColour.value_or(Unselected);
+}
+
 bool OptionSets(const std::string& option, const char* member) {
     return ParseObject(option).isMember(member);
 }

@@ -12,6 +12,7 @@ constexpr int DeepestNesting = 100;
 std::string Write(const Json::Value& json, const char* indentation) {
     Json::StreamWriterBuilder builder;
     builder["indentation"] = indentation;
+    builder["commentStyle"] = "None";
     builder["emitUTF8"] = true;
     return Json::writeString(builder, json);
 }

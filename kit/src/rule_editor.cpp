@@ -44,7 +44,13 @@ void RuleEditor::Capture(bool take) {
 void RuleEditor::ReleaseLeft(PointF at) {
     container.SendMouse(MouseCode::LeftUp, 0, at.x, at.y);
     rules.EndGesture();
-    Capture(false);
+    LetMouseGo();
+}
+
+void RuleEditor::LetMouseGo() {
+    if (captured) {
+        Capture(false);
+    }
 }
 
 void RuleEditor::Move(PointF at) {
@@ -117,7 +123,7 @@ bool RuleEditor::RightDown(PointF at, bool alt) {
 
 void RuleEditor::RightUp(PointF at) {
     container.SendMouse(MouseCode::RightUp, 0, at.x, at.y);
-    Capture(false);
+    LetMouseGo();
 }
 
 void RuleEditor::CaptureLost() {
@@ -136,12 +142,9 @@ void RuleEditor::Escape() {
     } else if (drawing) {
         StopDrawing();
     } else if (!rules.Settled()) {
-        const size_t selected = rules.Selected();
-        const std::string name = selected != RuleSet::None ? rules.Entries()[selected].rule.name : std::string();
         ReleaseLeft(pointer);
         rules.TakeEdits();
         Show(history.Current());
-        rules.Select(rules.Find(name));
         Say("The figure is where it was");
     } else {
         rules.Select(RuleSet::None);

@@ -40,15 +40,31 @@ std::string RuleEditor::FreeName(const std::string& type) const {
     }
 }
 
-bool RuleEditor::Change(size_t index, const Rule& rule, std::string& problem) {
-    const Rule& old = rules.Entries().at(index).rule;
+/// Why a rule cannot stand at that index; empty when it can.
+std::string RuleEditor::ProblemOf(const Rule& rule, size_t index) const {
     const size_t sameName = rules.Find(rule.name);
-    problem = OptionProblem(rule.type, rule.option);
     if (rule.name.empty()) {
-        problem = "a rule needs a name";
-    } else if (sameName != RuleSet::None && sameName != index) {
-        problem = "there is another rule named \"" + rule.name + "\"";
+        return "a rule needs a name";
     }
+    if (sameName != RuleSet::None && sameName != index) {
+        return "there is another rule named \"" + rule.name + "\"";
+    }
+    return OptionProblem(rule.type, rule.option);
+}
+
+bool RuleEditor::Add(const Rule& rule, std::string& problem) {
+    problem = ProblemOf(rule, RuleSet::None);
+    if (!problem.empty() || !rules.Add(rule, problem)) {
+        return false;
+    }
+    rules.Select(rules.Entries().size() - 1);
+    Settle();
+    return true;
+}
+
+bool RuleEditor::Change(size_t index, const Rule& rule, std::string& problem) {
+    const Rule old = rules.Entries().at(index).rule;
+    problem = ProblemOf(rule, index);
     if (!problem.empty()) {
         return false;
     }
@@ -57,8 +73,13 @@ bool RuleEditor::Change(size_t index, const Rule& rule, std::string& problem) {
     }
     Rule changed = rule;
     changed.configuration = RenamedConfiguration(old, rule.name);
+    const bool unfinished = index == rules.Unfinished();
     if (!rules.Replace(index, changed, problem)) {
         return false;
+    }
+    if (unfinished) {
+        drawn = changed;
+        drawn.name.clear();
     }
     Settle();
     return true;
@@ -94,12 +115,10 @@ bool RuleEditor::Duplicate(size_t index) {
     const std::string moved = MovedConfiguration(copy, host.viewSize(), DuplicateShift, DuplicateShift);
     copy.configuration = moved.empty() ? copy.configuration : moved;
     std::string problem;
-    if (!rules.Add(copy, problem)) {
+    if (!Add(copy, problem)) {
         Say(problem);
         return false;
     }
-    rules.Select(rules.Entries().size() - 1);
-    Settle();
     return true;
 }
 
@@ -159,10 +178,13 @@ bool RuleEditor::Load(const std::vector<Rule>& loaded, std::string& problem) {
 
 /// States of the history were accepted before, so none is refused.
 void RuleEditor::Show(const History::State& state) {
+    const size_t selected = rules.Selected();
+    const std::string name = selected != RuleSet::None ? rules.Entries()[selected].rule.name : std::string();
     std::string problem;
     if (!rules.Restore(state, problem)) {
         Say(problem);
     }
+    rules.Select(rules.Find(name));
 }
 
 } // namespace rulecanvas::kit

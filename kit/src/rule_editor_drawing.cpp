@@ -56,7 +56,7 @@ void RuleEditor::StopDrawing() {
         return;
     }
     rules.Remove(rules.Unfinished());
-    Capture(false);
+    LetMouseGo();
     drawing = false;
     keepDrawing = false;
     corners.clear();
@@ -174,7 +174,7 @@ void RuleEditor::RestartDrawing() {
         Say(problem);
     }
     rules.Select(index);
-    Capture(false);
+    LetMouseGo();
     corners.clear();
 }
 

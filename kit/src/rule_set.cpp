@@ -27,6 +27,18 @@ bool IsKnownType(Container& container, const Rule& rule) {
     return trial != 0;
 }
 
+/// Whether the shape of one rule becomes that of the other by a change of its look alone.
+bool HasSameShape(const Rule& one, const Rule& other) {
+    const auto keeps = [](const std::optional<Colour>& before, const std::optional<Colour>& after) {
+        return after.has_value() || !before.has_value();
+    };
+    return std::tie(one.type, one.name, one.label, one.option, one.configuration, one.view, one.pointLimits) ==
+               std::tie(other.type, other.name, other.label, other.option, other.configuration, other.view,
+                        other.pointLimits) &&
+           keeps(one.selectedColour, other.selectedColour) && keeps(one.unselectedColour, other.unselectedColour) &&
+           (one.direction.has_value() == other.direction.has_value() || other.direction.has_value());
+}
+
 } // namespace
 
 RuleSet::RuleSet(Container& given) : container(given) {
@@ -86,6 +98,10 @@ bool RuleSet::Add(const Rule& rule, std::string& problem) {
 }
 
 bool RuleSet::Replace(size_t index, const Rule& rule, std::string& problem) {
+    if (!IsUnfinished(entries.at(index)) && HasSameShape(entries[index].rule, rule)) {
+        Relook(entries[index], rule);
+        return true;
+    }
     RuleEntry entry;
     entry.rule = rule;
     entry.number = entries.at(index).number;
@@ -138,9 +154,7 @@ ShapeID RuleSet::Make(RuleEntry& entry, std::string& problem) {
 
 void RuleSet::ApplyLook(const RuleEntry& entry) {
     const Rule& rule = entry.rule;
-    if (!rule.caption.empty()) {
-        container.SetCaption(entry.shape, rule.caption.c_str());
-    }
+    container.SetCaption(entry.shape, rule.caption.c_str());
     if (rule.direction) {
         container.SetDirection(entry.shape, *rule.direction);
     }
@@ -154,6 +168,12 @@ void RuleSet::ApplyLook(const RuleEntry& entry) {
     };
     apply(Outline::Selected, rule.selectedColour);
     apply(Outline::Unselected, rule.unselectedColour);
+}
+
+void RuleSet::Relook(RuleEntry& entry, const Rule& rule) {
+    entry.rule = rule;
+    ApplyLook(entry);
+    ApplyFlags(entry);
 }
 
 /// Enabling and disabling change the selection, which is put back.
@@ -179,12 +199,14 @@ bool RuleSet::Restore(const std::vector<Rule>& rules, std::string& problem) {
     int number = counter;
     for (const Rule& rule : rules) {
         size_t same = 0;
-        while (same < entries.size() && (taken[same] || IsUnfinished(entries[same]) || entries[same].rule != rule)) {
+        while (same < entries.size() &&
+               (taken[same] || IsUnfinished(entries[same]) || !HasSameShape(entries[same].rule, rule))) {
             ++same;
         }
         if (same < entries.size()) {
             taken[same] = true;
             restored.push_back(entries[same]);
+            restored.back().rule = rule;
             continue;
         }
         RuleEntry entry;
@@ -211,6 +233,9 @@ bool RuleSet::Restore(const std::vector<Rule>& rules, std::string& problem) {
         }
     }
     entries = std::move(restored);
+    for (RuleEntry& entry : entries) {
+        Relook(entry, Rule(entry.rule));
+    }
     counter = number;
     return true;
 }

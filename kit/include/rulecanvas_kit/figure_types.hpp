@@ -42,6 +42,9 @@ Gesture GestureOf(const Rule& rule);
 
 /// Why an option does not suit a type; empty when it does.
 std::string OptionProblem(const std::string& type, const std::string& option);
+/// Gives a rule that names no colours such that can be seen on any picture.
+void ChooseReadableColours(Rule& rule);
+
 /// Whether the option, as a style, has that member.
 bool OptionSets(const std::string& option, const char* member);
 

@@ -81,6 +81,8 @@ class RuleEditor {
     void SelectNext(bool backwards);
     /// The first free name of the kind "Variable polygon 4".
     std::string FreeName(const std::string& type) const;
+    /// Adds a rule that has a configuration, at the end, and selects it. False when it is refused; `problem` says why.
+    bool Add(const Rule& rule, std::string& problem);
     /// Gives a rule another look or name. False when it is refused; `problem` says why.
     bool Change(size_t index, const Rule& rule, std::string& problem);
     void SetFlags(size_t index, bool enabled, bool visible, bool locked);
@@ -105,8 +107,10 @@ class RuleEditor {
 
   private:
     void Capture(bool take);
+    void LetMouseGo();
     void ReleaseLeft(PointF at);
     bool BeingDrawn() const;
+    std::string ProblemOf(const Rule& rule, size_t index) const;
     bool DrawsCorners() const;
     bool AlsoByClicks() const;
     bool NearFirstCorner(PointF at) const;

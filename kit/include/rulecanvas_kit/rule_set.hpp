@@ -103,6 +103,7 @@ class RuleSet {
     ShapeID Make(RuleEntry& entry, std::string& problem);
     void ApplyLook(const RuleEntry& entry);
     void ApplyFlags(const RuleEntry& entry);
+    void Relook(RuleEntry& entry, const Rule& rule);
     void Hear(const char* text);
     std::string Report(ShapeID shape) const;
     Strokes StrokesOf(size_t index) const;
