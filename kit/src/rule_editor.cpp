@@ -42,6 +42,12 @@ void RuleEditor::Capture(bool take) {
 
 /// Some shapes keep the mouse; it is let go with the button, so that the rest of the host can be reached.
 void RuleEditor::ReleaseLeft(PointF at) {
+    if (!rules.Settled()) {
+        /// A pixel counter takes its size while it is painted.
+        Surface nowhere;
+        Move(at);
+        container.Paint(0, nowhere);
+    }
     container.SendMouse(MouseCode::LeftUp, 0, at.x, at.y);
     rules.EndGesture();
     LetMouseGo();

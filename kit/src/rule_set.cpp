@@ -88,7 +88,7 @@ std::vector<Rule> RuleSet::Finished() const {
 bool RuleSet::Add(const Rule& rule, std::string& problem) {
     RuleEntry entry;
     entry.rule = rule;
-    entry.number = counter + 1;
+    entry.number = entries.empty() ? 1 : counter + 1;
     if (Make(entry, problem) == 0) {
         return false;
     }
@@ -196,7 +196,7 @@ bool RuleSet::Restore(const std::vector<Rule>& rules, std::string& problem) {
     std::vector<bool> taken(entries.size(), false);
     std::vector<ShapeID> made;
     std::string refused;
-    int number = counter;
+    int number = entries.empty() ? 0 : counter;
     for (const Rule& rule : rules) {
         size_t same = 0;
         while (same < entries.size() &&

@@ -233,8 +233,14 @@ bool EditorWindow::TakesKey(const MSG& message) {
     if (control && TakesShortcut(message.wParam)) {
         return true;
     }
-    if (typing && (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE)) {
-        message.wParam == VK_RETURN ? panel->Apply(true) : panel->Revert();
+    if (typing && message.wParam == VK_RETURN) {
+        if (panel->Apply(true)) {
+            SetFocus(view->Handle());
+        }
+        return true;
+    }
+    if (typing && message.wParam == VK_ESCAPE) {
+        panel->Revert();
         SetFocus(view->Handle());
         return true;
     }

@@ -152,6 +152,7 @@ void EditorWindow::LogChanges() {
     if (rules == loggedRules) {
         return;
     }
+    helpLine->ForgetRefusal();
     const auto find = [](const std::vector<Rule>& list, const std::string& name) {
         return std::find_if(list.begin(), list.end(), [&name](const Rule& rule) { return rule.name == name; });
     };

@@ -30,9 +30,14 @@ void HelpLine::Refuse(const std::string& reason) {
 
 void HelpLine::Tick() {
     if (ticksLeft > 0 && --ticksLeft == 0) {
-        refusal.clear();
-        InvalidateRect(line, nullptr, FALSE);
+        ForgetRefusal();
     }
+}
+
+void HelpLine::ForgetRefusal() {
+    refusal.clear();
+    ticksLeft = 0;
+    InvalidateRect(line, nullptr, FALSE);
 }
 
 void HelpLine::Draw(const DRAWITEMSTRUCT& item) const {

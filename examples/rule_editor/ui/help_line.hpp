@@ -14,6 +14,7 @@ class HelpLine {
     HWND Handle() const { return line; }
     void SetHelp(const std::string& text);
     void Refuse(const std::string& reason);
+    void ForgetRefusal();
     /// To be called about once a second.
     void Tick();
     void Draw(const DRAWITEMSTRUCT& item) const;

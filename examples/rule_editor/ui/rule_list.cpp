@@ -128,8 +128,8 @@ void RuleList::Draw(const DRAWITEMSTRUCT& item) const {
     }
     RECT area = item.rcItem;
     area.left += theme.Scaled(4 + BoxCount * BoxStep + 2);
-    const RECT icon = {area.left, area.top + theme.Scaled(2), area.left + theme.Scaled(20),
-                       area.top + theme.Scaled(22)};
+    const RECT icon = {area.left, area.top + theme.Scaled(1), area.left + theme.Scaled(20),
+                       area.top + theme.Scaled(21)};
     DrawToolIcon(item.hDC, icon, row.type, background, Theme::Accent);
     area.left += theme.Scaled(24);
     area.right -= theme.Scaled(row.state.empty() ? 4 : 78);

@@ -96,20 +96,21 @@ Rule RulePanel::Typed() const {
     return rule;
 }
 
-void RulePanel::Apply(bool insist) {
+bool RulePanel::Apply(bool insist) {
     if (!typed) {
-        return;
+        return true;
     }
     const Rule rule = Typed();
     typed = false;
     if (applied(rule)) {
-        return;
+        return true;
     }
     if (insist) {
         typed = true;
     } else {
         Revert();
     }
+    return false;
 }
 
 int RulePanel::Height() const {

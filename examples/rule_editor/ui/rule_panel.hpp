@@ -24,8 +24,9 @@ class RulePanel {
     /// `heading` tells whose texts they are. What the user is typing stays while the rule stays the same.
     void Show(const std::string& heading, const rulecanvas::kit::Rule& rule);
     const rulecanvas::kit::Rule& Shown() const { return shown; }
-    /// Applies what was typed; when it is refused and `insist` is false, the old texts come back.
-    void Apply(bool insist);
+    /// Applies what was typed. False when it is refused: then it stays to be put right, or without `insist` the old texts
+    /// come back.
+    bool Apply(bool insist);
     void Revert();
 
     int Height() const;

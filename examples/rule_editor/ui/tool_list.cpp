@@ -66,8 +66,8 @@ void ToolList::Draw(const DRAWITEMSTRUCT& item) const {
         return;
     }
     const auto& type = FigureTypes()[item.itemID - 1];
-    const RECT icon = {area.left, area.top + theme.Scaled(2), area.left + theme.Scaled(20),
-                       area.top + theme.Scaled(22)};
+    const RECT icon = {area.left, area.top + theme.Scaled(1), area.left + theme.Scaled(20),
+                       area.top + theme.Scaled(21)};
     DrawToolIcon(item.hDC, icon, type.type, background, Theme::Accent);
     area.left += theme.Scaled(26);
     area.right -= theme.Scaled(6);

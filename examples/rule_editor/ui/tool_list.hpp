@@ -29,6 +29,6 @@ class ToolList {
     bool keeping = false;
 };
 
-constexpr int RowHeight = 24;
+constexpr int RowHeight = 22;
 
 } // namespace rule_editor

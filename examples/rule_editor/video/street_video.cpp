@@ -66,9 +66,9 @@ class Painter {
         graphics.FillEllipse(&brush, middle.X - size, middle.Y - size, size * 2.0F, size * 2.0F);
     }
     void Sky() {
-        const Gdiplus::LinearGradientBrush brush(Gdiplus::PointF(0.0F, 0.0F), Gdiplus::PointF(0.0F, Horizon),
+        const Gdiplus::LinearGradientBrush brush(Gdiplus::PointF(0.0F, 0.0F), Gdiplus::PointF(0.0F, Horizon + 6.0F),
                                                  Color(150, 176, 204), Color(190, 216, 244));
-        graphics.FillRectangle(&brush, 0.0F, 0.0F, static_cast<float>(Drawn.width), Horizon);
+        graphics.FillRectangle(&brush, 0.0F, 0.0F, static_cast<float>(Drawn.width), Horizon + 6.0F);
     }
 
   private:

@@ -19,7 +19,7 @@ struct RuleEntry {
     Rule rule;
     ShapeID shape = 0;
     RuleState state = RuleState::Waiting;
-    int number = 0;       ///< Counts the rules of a set from 1; never given twice.
+    int number = 0;       ///< Counts the rules of a set from 1, anew when the set was empty.
     std::string reported; ///< The geometry that the library reports for the stored configuration.
 };
 
