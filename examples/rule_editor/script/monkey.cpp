@@ -16,6 +16,12 @@ namespace rule_editor {
 
 using rulecanvas::kit::Rule;
 
+namespace {
+
+constexpr int StepsBetweenPaints = 15;
+
+} // namespace
+
 Monkey::Monkey(EditorWindow& played, QuietPrompts& answers, unsigned seed, int events, std::wstring pictureFolder)
     : window(played), prompts(answers), random(seed), eventsLeft(events), folder(std::move(pictureFolder)) {
     std::filesystem::create_directories(std::filesystem::path(folder));
@@ -41,6 +47,10 @@ void Monkey::Step() {
         return;
     }
     Act();
+    if (Pick(0, StepsBetweenPaints) == 0) {
+        /// The posted messages would keep paints waiting for ever.
+        RedrawWindow(window.Handle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
     window.NextStep();
 }
 
