@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# Builds the library natively with sanitizers and for Windows, runs both test suites (the latter under Wine) and ends
-# with one line that counts the test cases of both. A suite that cannot be built or runs no case counts as one failure.
+# Builds the library natively with sanitizers and for Windows, runs both test suites (the latter under Wine), uses the sample
+# editor on a virtual display, and ends with one line that counts the test cases of all. A suite that cannot be built or runs
+# no case counts as one failure.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
 presets=(native-asan windows-x86)
-steps=$((2 * ${#presets[@]} + 1))
+steps=$((2 * ${#presets[@]} + 2))
 step=0
 total_passed=0
 total_failed=0
@@ -79,6 +80,20 @@ run_tests() {
     total_failed=$((total_failed + failed))
 }
 
+run_editor() {
+    local answer
+    begin "using the sample editor"
+    answer=$(scripts/test-editor.sh 2>&1 | tee build/editor-test.log | tail -n 1) || true
+    if [[ $answer =~ ^([0-9]+)\ passed,\ ([0-9]+)\ failed$ ]]; then
+        total_passed=$((total_passed + BASH_REMATCH[1]))
+        total_failed=$((total_failed + BASH_REMATCH[2]))
+    else
+        total_failed=$((total_failed + 1))
+    fi
+    printf 'test:       %s\n' "$answer"
+    grep 'failed: ' build/editor-test.log >&2 || true
+}
+
 begin "checking the machine"
 scripts/setup.sh build test
 
@@ -91,6 +106,8 @@ for preset in "${presets[@]}"; do
         total_failed=$((total_failed + 1))
     fi
 done
+
+run_editor
 
 printf '%d passed, %d failed\n' "$total_passed" "$total_failed"
 ((total_failed == 0))

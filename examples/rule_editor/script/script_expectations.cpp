@@ -111,6 +111,13 @@ void ScriptPlayer::ExpectCount(const ScriptStep& step) {
     }
 }
 
+void ScriptPlayer::ExpectAskedColour(const ScriptStep& step) {
+    const rulecanvas::kit::Colour wanted = {NumberAt(step, 0), NumberAt(step, 1), NumberAt(step, 2)};
+    if (!prompts.firstColour || !(*prompts.firstColour == wanted)) {
+        throw std::runtime_error("the question for a colour did not begin with that colour");
+    }
+}
+
 void ScriptPlayer::ExpectUse(const ScriptStep& step) {
     static const std::map<PointerUse, std::string> names = {{PointerUse::Nothing, "nothing"},
                                                             {PointerUse::Draw, "draw"},

@@ -85,6 +85,7 @@ const std::vector<ScriptPlayer::Command>& ScriptPlayer::Commands() {
         {"expect-questions", 1, 1, &ScriptPlayer::ExpectCount},
         {"expect-menus", 1, 1, &ScriptPlayer::ExpectCount},
         {"expect-corners", 1, 1, &ScriptPlayer::ExpectCount},
+        {"expect-asked-colour", 3, 3, &ScriptPlayer::ExpectAskedColour},
         {"expect-use", 3, 3, &ScriptPlayer::ExpectUse},
         {"expect-button", 2, 3, &ScriptPlayer::ExpectButton},
         {"compare", 2, 2, &ScriptPlayer::Compare},

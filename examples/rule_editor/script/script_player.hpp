@@ -76,6 +76,7 @@ class ScriptPlayer {
     void ExpectFile(const ScriptStep& step);
     void ExpectSelected(const ScriptStep& step);
     void ExpectCount(const ScriptStep& step);
+    void ExpectAskedColour(const ScriptStep& step);
     void ExpectUse(const ScriptStep& step);
     void ExpectButton(const ScriptStep& step);
     void Compare(const ScriptStep& step);
