@@ -191,52 +191,52 @@ void RuleSet::Remove(size_t index) {
     }
 }
 
+/// A finished rule, not among `kept`, whose shape can become that of `rule` as it is.
+size_t RuleSet::FindSameShape(const Rule& rule, const std::vector<ShapeID>& kept) const {
+    for (size_t i = 0; i < entries.size(); ++i) {
+        const bool free = std::find(kept.begin(), kept.end(), entries[i].shape) == kept.end();
+        if (free && !IsUnfinished(entries[i]) && HasSameShape(entries[i].rule, rule)) {
+            return i;
+        }
+    }
+    return None;
+}
+
+/// New shapes are made beside the old ones, and the old ones go when nothing was refused.
 bool RuleSet::Restore(const std::vector<Rule>& rules, std::string& problem) {
     std::vector<RuleEntry> restored;
-    std::vector<bool> taken(entries.size(), false);
-    std::vector<ShapeID> made;
+    std::vector<ShapeID> kept;
     std::string refused;
     int number = entries.empty() ? 0 : counter;
     for (const Rule& rule : rules) {
-        size_t same = 0;
-        while (same < entries.size() &&
-               (taken[same] || IsUnfinished(entries[same]) || !HasSameShape(entries[same].rule, rule))) {
-            ++same;
-        }
-        if (same < entries.size()) {
-            taken[same] = true;
-            restored.push_back(entries[same]);
-            restored.back().rule = rule;
-            continue;
-        }
-        RuleEntry entry;
-        entry.rule = rule;
+        const size_t same = FindSameShape(rule, kept);
         const size_t known = Find(rule.name);
-        entry.number = known != None && !taken[known] ? entries[known].number : ++number;
+        RuleEntry entry = same != None ? entries[same] : RuleEntry();
+        entry.rule = rule;
         std::string why;
-        if (Make(entry, why) == 0) {
-            refused += "\n\"" + rule.name + "\": " + why;
-            continue;
+        if (same != None) {
+            kept.push_back(entry.shape);
+        } else {
+            entry.number = known != None ? entries[known].number : ++number;
+            refused += Make(entry, why) == 0 ? "\n\"" + rule.name + "\": " + why : "";
         }
-        container.SelectShape(entry.shape, false);
-        made.push_back(entry.shape);
         restored.push_back(std::move(entry));
     }
+    std::vector<RuleEntry>& dropped = refused.empty() ? entries : restored;
+    for (const RuleEntry& entry : dropped) {
+        if (std::find(kept.begin(), kept.end(), entry.shape) == kept.end()) {
+            container.DeleteShape(entry.shape);
+        }
+    }
     if (!refused.empty()) {
-        std::for_each(made.begin(), made.end(), [this](ShapeID shape) { container.DeleteShape(shape); });
         problem = "the library refuses these rules:" + refused;
         return false;
     }
-    for (size_t i = 0; i < entries.size(); ++i) {
-        if (!taken[i]) {
-            container.DeleteShape(entries[i].shape);
-        }
-    }
     entries = std::move(restored);
+    counter = number;
     for (RuleEntry& entry : entries) {
         Relook(entry, Rule(entry.rule));
     }
-    counter = number;
     return true;
 }
 

@@ -104,6 +104,7 @@ class RuleSet {
     void ApplyLook(const RuleEntry& entry);
     void ApplyFlags(const RuleEntry& entry);
     void Relook(RuleEntry& entry, const Rule& rule);
+    size_t FindSameShape(const Rule& rule, const std::vector<ShapeID>& kept) const;
     void Hear(const char* text);
     std::string Report(ShapeID shape) const;
     Strokes StrokesOf(size_t index) const;
