@@ -119,7 +119,7 @@ rule_editor() {
 
 play_scripts() {
     local list=("$scripts"/on_video/*.rules) script name done=0 failed=0
-    [[ -n $video ]] || list=("$scripts"/*.rules "${list[@]}")
+    [[ -n $video ]] || list=("$scripts"/*.rules "$scripts"/editor/*.rules "${list[@]}")
     for script in "${list[@]}"; do
         name=$(basename "$script" .rules)
         done=$((done + 1))

@@ -10,6 +10,7 @@
 #   bench   Google Benchmark
 #   lint    clang-format and clang-tidy
 #   demo    a virtual display, a video converter and the fonts of the demonstrations
+#   editor  a mouse and a keyboard for the virtual display, and pictures of it
 # Without a group: build and test.
 set -euo pipefail
 
@@ -41,7 +42,8 @@ select_group() {
         bench) packages+=(libbenchmark-dev) ;;
         lint) packages+=(clang-format clang-tidy) ;;
         demo) packages+=(xvfb xauth ffmpeg python3 fonts-liberation) ;;
-        *) die "unknown group '$1'; known are build, test, fuzz, bench, lint and demo" ;;
+        editor) packages+=(xvfb xdotool imagemagick fonts-liberation) ;;
+        *) die "unknown group '$1'; known are build, test, fuzz, bench, lint, demo and editor" ;;
     esac
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Everything that guards main: the library natively with sanitizers and for 32-bit and 64-bit Windows (under Wine, and with
-# them the tests of the package for users), the scripts of the sample host, and the checks of the sources. Ends with one line that counts the test cases of all. A step that cannot be built or
-# runs no case counts as one failure.
+# them the tests of the package for users), the sample editor on a virtual display, and the checks of the sources. Ends with
+# one line that counts the test cases of all. A step that cannot be built or runs no case counts as one failure.
 #
 # usage: scripts/test.sh [STEP...]
 # Without a step: all of them, in the order of the table below.
@@ -16,7 +16,7 @@ steps=(
     "native-tsan:test_preset native-tsan"
     "windows-x86:test_preset windows-x86"
     "windows-x64:test_preset windows-x64"
-    "editor:scripts/demo.sh --headless"
+    "editor:scripts/test-editor.sh"
     "lint:scripts/lint.sh"
 )
 total_passed=0

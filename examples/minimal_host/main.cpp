@@ -23,7 +23,7 @@ class PrintingSurface final : public rulecanvas::Surface {
 } // namespace
 
 int main() {
-    constexpr rulecanvas::ViewID VIEW = 0;
+    constexpr rulecanvas::ViewID View = 0;
 
     // The host object and everything that the callbacks use outlive the container.
     rulecanvas::HostObject host([] { std::puts("repaint, please"); });
@@ -38,7 +38,7 @@ int main() {
     container.Enable();
 
     rulecanvas::ShapeSettings settings;
-    settings.view = VIEW;
+    settings.view = View;
     settings.type = "Rect";
     settings.label = "intrusion";
     settings.name = "gate";
@@ -48,13 +48,13 @@ int main() {
     }
 
     // A window procedure forwards these as they come.
-    container.SendMouse(MouseCode::LeftDown, VIEW, 100, 80);
-    container.SendMouse(MouseCode::Moved, VIEW, 300, 200);
-    container.SendMouse(MouseCode::LeftUp, VIEW, 300, 200);
+    container.SendMouse(MouseCode::LeftDown, View, 100, 80);
+    container.SendMouse(MouseCode::Moved, View, 300, 200);
+    container.SendMouse(MouseCode::LeftUp, View, 300, 200);
 
     // Last in the paint of the view, on top of the picture.
     PrintingSurface surface;
-    container.Paint(VIEW, surface);
+    container.Paint(View, surface);
 
     // What a host stores; AddShape takes it back as `configuration`.
     std::printf("geometry %s", container.Configuration(shape).c_str());

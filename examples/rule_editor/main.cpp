@@ -1,9 +1,12 @@
 #include "options.hpp"
-#include "picture/gdiplus.hpp"
+#include "script/monkey.hpp"
+#include "script/quiet_prompts.hpp"
 #include "script/script_player.hpp"
 #include "ui/editor_window.hpp"
 #include "ui/theme.hpp"
-#include "unicode.hpp"
+
+#include <rulecanvas_kit/gdiplus.hpp>
+#include <rulecanvas_kit/unicode.hpp>
 
 #include <shellapi.h>
 
@@ -16,11 +19,10 @@ namespace {
 
 using rule_editor::EditorWindow;
 using rule_editor::Options;
-using rule_editor::ScriptPlayer;
 
-constexpr int EXIT_UNUSABLE = 2;
+constexpr int ExitUnusable = 2;
 
-std::vector<std::wstring> arguments() {
+std::vector<std::wstring> Arguments() {
     int count = 0;
     LPWSTR* const words = CommandLineToArgvW(GetCommandLineW(), &count);
     std::vector<std::wstring> result;
@@ -31,17 +33,17 @@ std::vector<std::wstring> arguments() {
     return result;
 }
 
-/* A program with windows has no console of its own; one that was started from a console may use that. */
-void borrowConsole() {
+/// A program with windows has no console of its own; one that was started from a console may use that.
+void BorrowConsole() {
     if (GetStdHandle(STD_ERROR_HANDLE) == nullptr && AttachConsole(ATTACH_PARENT_PROCESS)) {
         std::freopen("CONOUT$", "w", stderr);
     }
 }
 
-int messageLoop(EditorWindow& window) {
+int RunMessages(EditorWindow& window) {
     MSG message = {};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-        if (window.takesKey(message)) {
+        if (window.TakesKey(message)) {
             continue;
         }
         TranslateMessage(&message);
@@ -50,47 +52,57 @@ int messageLoop(EditorWindow& window) {
     return static_cast<int>(message.wParam);
 }
 
-int run(const Options& options) {
-    const rule_editor::GdiplusRuntime gdiplus;
+int Run(const Options& options) {
+    const rulecanvas::kit::GdiplusRuntime gdiplus;
     const rule_editor::Theme theme;
-    EditorWindow window(theme, rule_editor::openVideo(options.video));
-    std::optional<ScriptPlayer> player;
+    const bool byPerson = options.script.empty() && !options.seed;
+    const std::wstring folder = options.snapshots.empty() ? L"." : options.snapshots;
+    rule_editor::DialogPrompts dialogs;
+    rule_editor::QuietPrompts quiet;
+    rule_editor::Prompts& prompts = byPerson ? static_cast<rule_editor::Prompts&>(dialogs) : quiet;
+    EditorWindow window(theme, prompts, rule_editor::OpenVideo(options.video));
+    std::optional<rule_editor::ScriptPlayer> player;
+    std::optional<rule_editor::Monkey> monkey;
     if (!options.script.empty()) {
-        player.emplace(window, options.script, options.snapshots.empty() ? L"." : options.snapshots);
+        player.emplace(window, quiet, options.script, folder);
     }
     ShowWindow(window.Handle(), SW_SHOWNORMAL);
     UpdateWindow(window.Handle());
+    SetFocus(window.View().Handle());
     if (player) {
-        player->start();
+        player->Start();
+    } else if (options.seed) {
+        monkey.emplace(window, quiet, *options.seed, options.events, folder);
+        monkey->Start();
     } else {
-        window.play(true);
+        window.Play(true);
     }
-    return messageLoop(window);
+    return RunMessages(window);
 }
 
-/* Scripts are run by other programs, which read the error output; a person sees a box. */
-void report(const std::string& problem, bool toPerson) {
+/// Scripts are run by other programs, which read the error output; a person sees a box.
+void Report(const std::string& problem, bool toPerson) {
     std::fprintf(stderr, "rule_editor: %s\n", problem.c_str());
     if (toPerson) {
-        MessageBoxW(nullptr, rule_editor::toWide(problem).c_str(), L"Rule editor", MB_ICONERROR);
+        MessageBoxW(nullptr, rulecanvas::kit::ToWide(problem).c_str(), rule_editor::ProgramTitle, MB_ICONERROR);
     }
 }
 
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, LPWSTR, int) {
-    borrowConsole();
+    BorrowConsole();
     Options options;
     try {
-        options = rule_editor::parseOptions(arguments());
+        options = rule_editor::ParseOptions(Arguments());
     } catch (const std::exception& error) {
-        report(std::string(error.what()) + "\n" + rule_editor::USAGE, false);
-        return EXIT_UNUSABLE;
+        Report(std::string(error.what()) + "\n" + rule_editor::Usage, false);
+        return ExitUnusable;
     }
     try {
-        return run(options);
+        return Run(options);
     } catch (const std::exception& error) {
-        report(error.what(), options.script.empty());
-        return EXIT_UNUSABLE;
+        Report(error.what(), options.script.empty() && !options.seed);
+        return ExitUnusable;
     }
 }

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "picture/frame.hpp"
+#include "script/quiet_prompts.hpp"
 #include "script/script.hpp"
 #include "ui/editor_window.hpp"
+#include "video/frame.hpp"
 
 #include <map>
 #include <string>
@@ -10,15 +11,15 @@
 
 namespace rule_editor {
 
-/* Plays a script on the window: mouse steps become posted window messages that go through the ordinary message loop,
- * the other steps do what the user's clicks do. A step begins when the messages of the one before it have been handled.
- * The player ends the message loop; the exit code of the program is then its result. */
+/// Plays a script on the window: steps of the mouse and the keyboard become posted window messages that go through the
+/// ordinary message loop. A step begins when the messages of the one before it have been handled. The player ends the
+/// message loop; the exit code of the program is then its result.
 class ScriptPlayer {
   public:
-    /* Throws std::runtime_error when the script is not understood. `folder` takes pictures, log and rules files. */
-    ScriptPlayer(EditorWindow& window, const std::wstring& script, std::wstring folder);
+    /// Throws std::runtime_error when the script is not understood. `folder` takes pictures, log and rules files.
+    ScriptPlayer(EditorWindow& played, QuietPrompts& answers, const std::wstring& script, std::wstring pictureFolder);
 
-    void start();
+    void Start();
 
   private:
     using Action = void (ScriptPlayer::*)(const ScriptStep&);
@@ -28,60 +29,76 @@ class ScriptPlayer {
         size_t mostWords;
         Action action;
     };
-    static const std::vector<Command>& commands();
-    static const Command* find(const std::string& name);
+    static const std::vector<Command>& Commands();
+    static const Command* Find(const std::string& name);
 
-    void playNext();
-    void fail(const std::string& problem);
-    void finish(int exitCode);
-    void writeLog() const;
-    std::wstring inFolder(const std::string& name) const;
+    void PlayNext();
+    void Fail(const std::string& problem);
+    void Finish(int exitCode);
+    std::wstring InFolder(const std::string& name) const;
 
-    void tool(const ScriptStep& step);
-    void setting(const ScriptStep& step);
-    void config(const ScriptStep& step);
-    void press(const ScriptStep& step);
-    void move(const ScriptStep& step);
-    void release(const ScriptStep& step);
-    void click(const ScriptStep& step);
-    void drag(const ScriptStep& step);
-    void rightClick(const ScriptStep& step);
-    void altRightClick(const ScriptStep& step);
-    void key(const ScriptStep& step);
-    void select(const ScriptStep& step);
-    void deselect(const ScriptStep& step);
-    void direction(const ScriptStep& step);
-    void colour(const ScriptStep& step);
-    void limits(const ScriptStep& step);
-    void showOrHide(const ScriptStep& step);
-    void deleteRule(const ScriptStep& step);
-    void clear(const ScriptStep& step);
-    void tip(const ScriptStep& step);
-    void resize(const ScriptStep& step);
-    void frame(const ScriptStep& step);
-    void snapshot(const ScriptStep& step);
-    void save(const ScriptStep& step);
-    void load(const ScriptStep& step);
-    void expectLog(const ScriptStep& step);
-    void expectConfig(const ScriptStep& step);
-    void expectRules(const ScriptStep& step);
-    void compare(const ScriptStep& step);
-    void differ(const ScriptStep& step);
+    void Tool(const ScriptStep& step);
+    void Setting(const ScriptStep& step);
+    void Config(const ScriptStep& step);
+    void Mouse(const ScriptStep& step);
+    void Drag(const ScriptStep& step);
+    void Key(const ScriptStep& step);
+    void Button(const ScriptStep& step);
+    void ToolRow(const ScriptStep& step);
+    void Box(const ScriptStep& step);
+    void Row(const ScriptStep& step);
+    void FieldText(const ScriptStep& step);
+    void DirectionChoice(const ScriptStep& step);
+    void MenuChoice(const ScriptStep& step);
+    void StealCapture(const ScriptStep& step);
+    void Close(const ScriptStep& step);
+    void Answer(const ScriptStep& step);
+    void AnswerColour(const ScriptStep& step);
+    void Select(const ScriptStep& step);
+    void Direction(const ScriptStep& step);
+    void ChooseColour(const ScriptStep& step);
+    void Limits(const ScriptStep& step);
+    void ShowOrHide(const ScriptStep& step);
+    void DeleteRule(const ScriptStep& step);
+    void Clear(const ScriptStep& step);
+    void Tip(const ScriptStep& step);
+    void Resize(const ScriptStep& step);
+    void ShowFrame(const ScriptStep& step);
+    void Snapshot(const ScriptStep& step);
+    void Save(const ScriptStep& step);
+    void Load(const ScriptStep& step);
+    void WriteFile(const ScriptStep& step);
 
-    void post(UINT message, WPARAM buttons, int x, int y) const;
-    size_t ruleNamed(const std::string& name) const;
-    size_t requiredRule() const;
-    const Frame& picture(const std::string& name) const;
+    void ExpectLog(const ScriptStep& step);
+    void ExpectConfig(const ScriptStep& step);
+    void ExpectRules(const ScriptStep& step);
+    void ExpectText(const ScriptStep& step);
+    void ExpectFile(const ScriptStep& step);
+    void ExpectSelected(const ScriptStep& step);
+    void ExpectCount(const ScriptStep& step);
+    void ExpectAskedColour(const ScriptStep& step);
+    void ExpectUse(const ScriptStep& step);
+    void ExpectButton(const ScriptStep& step);
+    void Compare(const ScriptStep& step);
 
-    EditorWindow& m_window;
-    std::wstring m_scriptPath;
-    std::wstring m_folder;
-    std::vector<ScriptStep> m_steps;
-    size_t m_next = 0;
-    Rule m_settings;          /* For the next rule. */
-    size_t m_logSearched = 0; /* Lines before it were matched by an expectation or come before one that was. */
-    std::map<std::string, Frame> m_pictures; /* Of the video view, by the name of the snapshot. */
-    bool m_finished = false;
+    void Post(UINT message, WPARAM buttons, int x, int y) const;
+    void Change(size_t rule, const rulecanvas::kit::Rule& changed);
+    size_t RuleNamed(const std::string& name) const;
+    size_t RequiredRule() const;
+    HWND ButtonNamed(const std::string& name) const;
+    const Frame& PictureNamed(const std::string& name) const;
+
+    EditorWindow& window;
+    QuietPrompts& prompts;
+    std::wstring scriptPath;
+    std::wstring folder;
+    std::vector<ScriptStep> steps;
+    size_t next = 0;
+    int expectations = 0;
+    rulecanvas::kit::Rule settings; ///< For the next rule.
+    size_t logSearched = 0;         ///< Lines before it were matched by an expectation or come before one that was.
+    std::map<std::string, Frame> pictures; ///< Of the video view, by the name of the snapshot.
+    bool finished = false;
 };
 
 } // namespace rule_editor

@@ -1,51 +1,34 @@
 #include "ui/editor_window.hpp"
 
-#include "unicode.hpp"
-
-#include <commdlg.h>
+#include <rulecanvas_kit/figure_types.hpp>
 
 #include <algorithm>
-#include <iterator>
-#include <stdexcept>
 
 namespace rule_editor {
 
-using rulecanvas::Outline;
+using rulecanvas::kit::Rule;
+using rulecanvas::kit::RuleSet;
 
 namespace {
 
-enum Control : WORD { LOG_LIST = 200, FIRST_BUTTON = 300 };
-constexpr UINT NEXT_STEP = WM_APP + 1;
-constexpr UINT_PTR PLAY_TIMER = 1;
+enum Control : WORD { ToolListControl = 100, RuleListControl, LogControl, HelpControl, FirstPanelControl = 200 };
+constexpr UINT NextStepMessage = WM_APP + 1;
+constexpr UINT_PTR PlayTimer = 1;
+constexpr UINT_PTR HelpTimer = 2;
+constexpr UINT HelpTick = 1000;
 
-constexpr int MARGIN = 12;
-constexpr int BAR_HEIGHT = 48;
-constexpr int BUTTON_HEIGHT = 26;
-constexpr int BUTTON_GAP = 6;
-constexpr int LOG_HEIGHT = 150;
-constexpr int LOG_ROW_HEIGHT = 17;
-constexpr int LOG_TEXT_MARGIN = 4;
-constexpr size_t LONGEST_SHOWN_LOG = 2000;
-/* With this size the built-in scene is shown pixel by pixel. */
-constexpr Size FIRST_SIZE = {SidePanel::WIDTH + 3 * MARGIN + 960, BAR_HEIGHT + 540 + 2 * MARGIN + LOG_HEIGHT};
-constexpr Size SMALLEST_SIZE = {720, 520};
+constexpr int Margin = 12;
+constexpr int BarHeight = 48;
+constexpr int PanelWidth = 236;
+constexpr int HeadingHeight = 26;
+constexpr int LowerHeight = 150;
+constexpr int LeastViewHeight = 120;
+constexpr int LeastListHeight = 60;
+/// With this size the built-in scene is shown pixel by pixel at 96 dots an inch.
+constexpr Size FirstSize = {PanelWidth + 3 * Margin + 960, BarHeight + 540 + 2 * Margin + LowerHeight};
 
-constexpr const wchar_t* RULES_FILTER = L"Rules (*.json)\0*.json\0All files\0*.*\0";
-constexpr const wchar_t* VIDEO_FILTER = L"Videos and pictures\0*.y4m;*.png;*.jpg;*.jpeg\0All files\0*.*\0";
-
-struct Button {
-    const wchar_t* caption;
-    int width;
-};
-
-enum ButtonIndex { OPEN_VIDEO, PLAY, LOAD, SAVE, DESELECT, DELETE_RULE, CLEAR, COLOUR, DIRECTION };
-
-constexpr Button BUTTONS[] = {{L"Open video", 92}, {L"Play", 66},     {L"Load rules", 88},
-                              {L"Save rules", 88}, {L"Deselect", 78}, {L"Delete", 66},
-                              {L"Clear", 62},      {L"Colour", 70},   {L"Direction", 80}};
-
-/* The largest rectangle of the video's shape inside `area`, in its middle. */
-RECT fitted(const RECT& area, Size video) {
+/// The largest rectangle of the video's shape inside `area`, in its middle.
+RECT Fitted(const RECT& area, Size video) {
     const int64_t width = std::max<LONG>(area.right - area.left, 1);
     const int64_t height = std::max<LONG>(area.bottom - area.top, 1);
     const bool wide = width * video.height > height * video.width;
@@ -58,384 +41,244 @@ RECT fitted(const RECT& area, Size video) {
 
 } // namespace
 
-EditorWindow::EditorWindow(const Theme& theme, std::unique_ptr<VideoSource> video)
-    : m_theme(theme), m_video(std::move(video)),
-      m_scene({[this] {
-                   if (m_view) {
-                       m_view->redraw();
-                   }
-               },
-               [this](bool take) { m_view->captureMouse(take); }, [this] { return m_view->clientRect(); },
-               [this](const std::string& line) { log(line); }}) {
-    create(L"RuleEditor", L"Rule editor", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, nullptr);
-    addControls();
-    showVideo();
-    resizeClient(FIRST_SIZE);
+EditorWindow::EditorWindow(const Theme& look, Prompts& asked, std::unique_ptr<VideoSource> shownVideo)
+    : theme(look), prompts(asked), video(std::move(shownVideo)) {
+    Create(L"RuleEditor", ProgramTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, nullptr);
+    AddControls();
+    AddTooltips();
+    ShowVideo();
+    ResizeClient({theme.Scaled(FirstSize.width), theme.Scaled(FirstSize.height)});
+    SetTimer(Handle(), HelpTimer, HelpTick, nullptr);
+    Refresh();
 }
 
-/* Shapes speak to the log and the view when they end, so they end while both are there. */
+/// Shapes and controls speak to this object while they end.
 EditorWindow::~EditorWindow() {
-    m_scene.clear();
+    closing = true;
 }
 
-void EditorWindow::addControls() {
-    m_panel = std::make_unique<SidePanel>(Handle(), m_theme,
-                                          SidePanel::Events{[this](const std::string& type) { startTool(type, ""); },
-                                                            [this](size_t rule) {
-                                                                m_scene.select(rule);
-                                                                refresh();
-                                                            }});
-    m_view = std::make_unique<VideoView>(
-        Handle(), m_scene,
-        VideoView::Events{[this] { refresh(); }, [this](const std::string& problem) { onFailure(problem); }});
-    const auto add = [this](const wchar_t* kind, const wchar_t* text, DWORD style, size_t id) {
-        const HWND control =
-            CreateWindowExW(0, kind, text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 0, 0, Handle(),
-                            reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
-        return control;
+void EditorWindow::AddControls() {
+    bar = std::make_unique<ToolBar>(Handle(), theme);
+    toolList = std::make_unique<ToolList>(Handle(), theme, ToolListControl,
+                                          [this](const std::string& type, bool keep) { StartTool(type, keep); });
+    panel = std::make_unique<RulePanel>(Handle(), theme, FirstPanelControl,
+                                        [this](const Rule& rule) { return ApplyPanel(rule); });
+    ruleList =
+        std::make_unique<RuleList>(Handle(), theme, RuleListControl,
+                                   RuleList::Events{[this](size_t rule) { Rules().Select(rule); },
+                                                    [this](size_t rule, RuleList::Box box) { ToggleBox(rule, box); }});
+    helpLine = std::make_unique<HelpLine>(Handle(), theme, HelpControl);
+    logList = std::make_unique<LogList>(Handle(), theme, LogControl);
+    view = std::make_unique<VideoView>(Handle(), ViewEvents());
+    tooltips = std::make_unique<Tooltips>(Handle());
+}
+
+void EditorWindow::AddTooltips() const {
+    const std::pair<HWND, const wchar_t*> tips[] = {
+        {bar->ButtonOf(Command::OpenVideo), L"Show another video: YUV4MPEG2 (.y4m), PNG or JPEG"},
+        {bar->ButtonOf(Command::Play), L"Let the video run or stand still"},
+        {bar->ButtonOf(Command::New), L"Remove all rules (Ctrl+N)"},
+        {bar->ButtonOf(Command::Load), L"Replace the rules by those of a file (Ctrl+O)"},
+        {bar->ButtonOf(Command::Save), L"Write all rules into a file (Ctrl+S)"},
+        {bar->ButtonOf(Command::Undo), L"Take the last change back (Ctrl+Z)"},
+        {bar->ButtonOf(Command::Redo), L"Make the change again that was taken back (Ctrl+Y)"},
+        {bar->ButtonOf(Command::Duplicate), L"Make a copy of the selected rule (Ctrl+D)"},
+        {bar->ButtonOf(Command::Delete), L"Remove the selected rule (Delete)"},
+        {bar->ButtonOf(Command::Colour), L"Choose the colour of the selected rule"},
+        {bar->ButtonOf(Command::Deselect), L"Select nothing (Escape)"},
+        {toolList->Handle(), L"Click a tool to draw one figure; double click it to keep it"},
+        {ruleList->Handle(), L"E: in force, S: shown, L: locked against the mouse. Click a name to select the rule"},
+        {panel->EditOf(RulePanel::Name), L"Names the rule in files and notifications; no two rules share one"},
+        {panel->EditOf(RulePanel::Label), L"The event name in the notifications of the rule"},
+        {panel->EditOf(RulePanel::Caption), L"Drawn beside the figure"},
+        {panel->EditOf(RulePanel::Option), L"A word such as Convex, or a style such as {\"LineThickness\":3}"},
+        {panel->Directions(), L"Which way the figure points"},
     };
-    for (size_t i = 0; i < std::size(BUTTONS); ++i) {
-        m_buttons.push_back(add(L"BUTTON", BUTTONS[i].caption, BS_OWNERDRAW, FIRST_BUTTON + i));
-    }
-    m_logList =
-        add(L"LISTBOX", L"", WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWFIXED | LBS_NOINTEGRALHEIGHT | LBS_NOSEL, LOG_LIST);
-    SendMessageW(m_logList, LB_SETITEMHEIGHT, 0, LOG_ROW_HEIGHT);
-}
-
-void EditorWindow::showVideo() {
-    m_view->setVideo(*m_video);
-    m_scene.SetVideoSize(m_video->size().width, m_video->size().height);
-    if (!m_video->remark().empty()) {
-        log(m_video->remark());
+    for (const auto& [control, text] : tips) {
+        tooltips->Add(control, text);
     }
 }
 
-void EditorWindow::resizeClient(Size size) {
+VideoView::Events EditorWindow::ViewEvents() {
+    return {[this] { Refresh(); },
+            [this](const std::string& text) { Refuse(text); },
+            [this](const rulecanvas::kit::RuleNews& news) { LogNews(news); },
+            [this](bool taken) { fullLog.emplace_back(taken ? "mouse captured" : "mouse released"); },
+            [this](POINT at) { OpenMenu(at); },
+            [this](const std::string& problem) { OnFailure(problem); }};
+}
+
+void EditorWindow::ShowVideo() {
+    view->SetVideo(*video);
+    if (!video->Remark().empty()) {
+        Log(video->Remark());
+    }
+}
+
+void EditorWindow::ResizeClient(Size size) {
     RECT area = {0, 0, size.width, size.height};
     AdjustWindowRect(&area, static_cast<DWORD>(GetWindowLongPtrW(Handle(), GWL_STYLE)), FALSE);
     SetWindowPos(Handle(), nullptr, 0, 0, area.right - area.left, area.bottom - area.top, SWP_NOMOVE | SWP_NOZORDER);
 }
 
-void EditorWindow::layout() {
-    const Size client = clientSize();
-    int x = MARGIN;
-    for (size_t i = 0; i < m_buttons.size(); ++i) {
-        MoveWindow(m_buttons[i], x, (BAR_HEIGHT - BUTTON_HEIGHT) / 2, BUTTONS[i].width, BUTTON_HEIGHT, TRUE);
-        x += BUTTONS[i].width + BUTTON_GAP;
+/// The tool bar fits, and nothing below it vanishes.
+Size EditorWindow::SmallestClient() const {
+    const int lists = theme.Scaled(2 * (HeadingHeight + LeastListHeight));
+    const int left = theme.Scaled(BarHeight + Margin) + panel->Height() + lists;
+    const int right = theme.Scaled(BarHeight + LeastViewHeight + LowerHeight + 2 * Margin);
+    return {bar->Width() + theme.Scaled(2 * Margin), std::max(left, right)};
+}
+
+/// The tools get the height they need while a part of the left side is left for the rules.
+void EditorWindow::Arrange() {
+    const Size client = ClientSize();
+    const int margin = theme.Scaled(Margin);
+    const int top = theme.Scaled(BarHeight);
+    const int heading = theme.Scaled(HeadingHeight);
+    const int right = margin + theme.Scaled(PanelWidth);
+    const int free = client.height - margin - top - 2 * heading - panel->Height();
+    const int toolsHeight = std::clamp(toolList->WantedHeight(), 0, std::max(free * 3 / 4, 0));
+    Layout layout;
+    bar->Place(layout, margin, (top - bar->Height()) / 2);
+    int y = top + heading;
+    drawHeading = {margin, top, right, y};
+    layout.Move(toolList->Handle(), {margin, y, right, y + toolsHeight});
+    y += toolsHeight;
+    panel->Place(layout, {margin, y, right, y + panel->Height()});
+    y += panel->Height();
+    rulesHeading = {margin, y, right, y + heading};
+    layout.Move(ruleList->Handle(), {margin, y + heading, right, client.height - margin});
+
+    const int left = right + margin;
+    const int lower = client.height - margin - theme.Scaled(LowerHeight);
+    const int help = theme.Scaled(HelpLine::Height);
+    layout.Move(helpLine->Handle(), {left, lower - margin + 4, client.width - margin, lower - margin + 4 + help});
+    layout.Move(logList->Handle(), {left, lower - margin + 8 + help, client.width - margin, client.height - margin});
+    layout.Move(view->Handle(), Fitted({left, top, client.width - margin, lower - margin}, video->PictureSize()));
+    Redraw();
+}
+
+LRESULT EditorWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (!tooltips || closing) {
+        return Window::OnMessage(message, wParam, lParam);
     }
-    m_panel->layout({MARGIN, BAR_HEIGHT, MARGIN + SidePanel::WIDTH, client.height - MARGIN});
-    const int left = 2 * MARGIN + SidePanel::WIDTH;
-    const int logTop = client.height - MARGIN - LOG_HEIGHT;
-    MoveWindow(m_logList, left, logTop, std::max(client.width - left - MARGIN, 1), LOG_HEIGHT, TRUE);
-    const RECT video = fitted({left, BAR_HEIGHT, client.width - MARGIN, logTop - MARGIN}, m_video->size());
-    MoveWindow(m_view->Handle(), video.left, video.top, video.right - video.left, video.bottom - video.top, TRUE);
-    redraw();
-}
-
-void EditorWindow::log(const std::string& line) {
-    m_log.push_back(line);
-    if (m_logList == nullptr) {
-        return;
-    }
-    if (SendMessageW(m_logList, LB_GETCOUNT, 0, 0) >= static_cast<LRESULT>(LONGEST_SHOWN_LOG)) {
-        SendMessageW(m_logList, LB_DELETESTRING, 0, 0);
-    }
-    const LRESULT row = SendMessageW(m_logList, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L""));
-    SendMessageW(m_logList, LB_SETTOPINDEX, static_cast<WPARAM>(row), 0);
-}
-
-void EditorWindow::startTool(const std::string& type, const std::string& configuration) {
-    if (type.empty()) {
-        m_scene.abandonUnfinished();
-        m_scene.SetTip("");
-        refresh();
-        return;
-    }
-    Rule rule;
-    m_panel->fillIn(rule);
-    rule.type = type;
-    rule.configuration = configuration;
-    m_scene.select(m_scene.entries().size());
-    const bool added = m_scene.add(rule);
-    if (added) {
-        m_panel->setSettings(Rule());
-        m_scene.SetTip(configuration.empty() ? m_panel->hintOf(type) : "");
-        SetFocus(m_view->Handle());
-    }
-    refresh();
-    if (!added) {
-        throw std::runtime_error("the library refuses this rule of type " + type);
-    }
-}
-
-size_t EditorWindow::currentRule() const {
-    const std::vector<bool> selection = m_scene.selection();
-    const auto first = std::find(selection.begin(), selection.end(), true);
-    return first != selection.end() ? static_cast<size_t>(first - selection.begin()) : m_scene.last();
-}
-
-void EditorWindow::save(const std::wstring& path) {
-    m_scene.save(path);
-    log("rules saved: " + std::to_string(m_scene.entries().size()));
-}
-
-void EditorWindow::load(const std::wstring& path) {
-    m_scene.load(path);
-    log("rules loaded: " + std::to_string(m_scene.entries().size()));
-    refresh();
-}
-
-void EditorWindow::refresh() {
-    const size_t unfinished = m_scene.unfinished();
-    const bool drawing = unfinished < m_scene.entries().size();
-    m_panel->markTool(drawing ? m_scene.entries()[unfinished].rule.type : "");
-    m_panel->showRules(m_scene);
-}
-
-void EditorWindow::play(bool playing) {
-    m_playing = playing && m_video->framesPerSecond() > 0.0;
-    KillTimer(Handle(), PLAY_TIMER);
-    if (m_playing) {
-        SetTimer(Handle(), PLAY_TIMER, static_cast<UINT>(1000.0 / m_video->framesPerSecond()), nullptr);
-    }
-    SetWindowTextW(m_buttons[PLAY], m_playing ? L"Pause" : L"Play");
-}
-
-void EditorWindow::runScript(std::function<void()> step, std::function<void(const std::string&)> failed) {
-    m_step = std::move(step);
-    m_scriptFailed = std::move(failed);
-    m_view->listenToScriptOnly();
-    nextStep();
-}
-
-void EditorWindow::nextStep() {
-    PostMessageW(Handle(), NEXT_STEP, 0, 0);
-}
-
-bool EditorWindow::takesKey(const MSG& message) {
-    if (message.message != WM_KEYDOWN) {
-        return false;
-    }
-    const bool forView = message.hwnd == m_view->Handle();
-    wchar_t kind[8] = {};
-    GetClassNameW(message.hwnd, kind, static_cast<int>(std::size(kind)));
-    const bool typing = lstrcmpiW(kind, L"EDIT") == 0;
-    if (message.wParam == VK_ESCAPE && !forView) {
-        SendMessageW(m_view->Handle(), WM_KEYDOWN, VK_ESCAPE, 0);
-        return true;
-    }
-    if (message.wParam == VK_DELETE && !typing) {
-        deleteCurrent();
-        return true;
-    }
-    MSG dialogKey = message;
-    return !forView && IsDialogMessageW(Handle(), &dialogKey) != FALSE;
-}
-
-LRESULT EditorWindow::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_SIZE:
-        if (wParam != SIZE_MINIMIZED && m_logList != nullptr) {
-            layout();
+        if (wParam != SIZE_MINIMIZED) {
+            Arrange();
         }
         return 0;
-    case WM_GETMINMAXINFO:
-        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {SMALLEST_SIZE.width, SMALLEST_SIZE.height};
+    case WM_GETMINMAXINFO: {
+        RECT area = {0, 0, SmallestClient().width, SmallestClient().height};
+        AdjustWindowRect(&area, WS_OVERLAPPEDWINDOW, FALSE);
+        reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {area.right - area.left, area.bottom - area.top};
         return 0;
+    }
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
         Paint();
         return 0;
-    case WM_COMMAND:
-        onCommand(LOWORD(wParam), HIWORD(wParam));
+    case WM_SETFOCUS:
+        SetFocus(view->Handle());
         return 0;
-    case WM_MEASUREITEM:
-        reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = SidePanel::ROW_HEIGHT;
-        return TRUE;
+    case WM_COMMAND:
+        OnCommand(LOWORD(wParam), HIWORD(wParam));
+        return 0;
     case WM_DRAWITEM:
-        onDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        OnDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
         return TRUE;
     case WM_CTLCOLORSTATIC:
-        SetBkColor(reinterpret_cast<HDC>(wParam), Theme::WINDOW);
-        SetTextColor(reinterpret_cast<HDC>(wParam), Theme::INK);
-        return reinterpret_cast<LRESULT>(m_theme.window());
+        SetBkColor(reinterpret_cast<HDC>(wParam), Theme::WindowColour);
+        SetTextColor(reinterpret_cast<HDC>(wParam), Theme::Ink);
+        return reinterpret_cast<LRESULT>(theme.WindowBrush());
     case WM_TIMER:
-        m_view->showFrame(m_view->frameIndex() + 1);
+        wParam == PlayTimer ? view->ShowFrame(view->FrameIndex() + 1) : helpLine->Tick();
         return 0;
-    case NEXT_STEP:
-        m_step();
+    case NextStepMessage:
+        scriptStep();
         return 0;
     case WM_CLOSE:
-        PostQuitMessage(0);
+        if (MayDiscard()) {
+            PostQuitMessage(0);
+        }
         return 0;
     default:
-        return Window::onMessage(message, wParam, lParam);
+        return Window::OnMessage(message, wParam, lParam);
     }
 }
 
-void EditorWindow::onFailure(const std::string& problem) {
-    play(false);
-    log("problem: " + problem);
-    if (m_scriptFailed) {
-        m_scriptFailed(problem);
+void EditorWindow::OnFailure(const std::string& problem) {
+    Play(false);
+    Log("problem: " + problem);
+    if (scriptFailed) {
+        scriptFailed(problem);
     } else {
-        MessageBoxW(Handle(), toWide(problem).c_str(), L"Rule editor", MB_ICONWARNING);
+        prompts.Tell(Handle(), problem);
     }
 }
 
 void EditorWindow::Paint() {
     PAINTSTRUCT area = {};
     const HDC context = BeginPaint(Handle(), &area);
-    m_theme.fill(context, area.rcPaint, Theme::WINDOW);
-    m_panel->paintHeadings(context);
+    theme.Fill(context, area.rcPaint, Theme::WindowColour);
+    theme.Write(context, drawHeading, L"DRAW", theme.Strong(), Theme::Faint, DT_LEFT);
+    theme.Write(context, rulesHeading, L"RULES", theme.Strong(), Theme::Faint, DT_LEFT);
+    panel->PaintHeading(context);
     EndPaint(Handle(), &area);
 }
 
-void EditorWindow::onCommand(WORD control, WORD event) {
-    if (m_panel && m_panel->onCommand(control, event)) {
+void EditorWindow::OnCommand(WORD control, WORD event) {
+    if (panel->OnCommand(control, event)) {
         return;
     }
-    if (control >= FIRST_BUTTON && control < FIRST_BUTTON + m_buttons.size() && event == BN_CLICKED) {
-        pressButton(static_cast<size_t>(control - FIRST_BUTTON));
+    if (control == ToolListControl) {
+        toolList->OnCommand(event);
+    } else if (control == RuleListControl) {
+        ruleList->OnCommand(event);
+    } else {
+        Execute(bar->CommandOf(control, event));
     }
 }
 
-void EditorWindow::onDrawItem(const DRAWITEMSTRUCT& item) {
-    if (item.CtlID == LOG_LIST) {
-        drawLogLine(item);
-    } else if (item.CtlType == ODT_BUTTON) {
-        wchar_t caption[32] = {};
-        GetWindowTextW(item.hwndItem, caption, static_cast<int>(std::size(caption)));
-        m_theme.drawButton(item, caption);
-    } else if (m_panel) {
-        m_panel->onDrawItem(item);
-    }
-}
-
-/* The list holds the last lines of the log, one row each. */
-void EditorWindow::drawLogLine(const DRAWITEMSTRUCT& item) {
-    m_theme.fill(item.hDC, item.rcItem, Theme::PANEL);
-    const auto shown = static_cast<size_t>(SendMessageW(m_logList, LB_GETCOUNT, 0, 0));
-    if (item.itemID >= shown || shown > m_log.size()) {
-        return;
-    }
-    const std::string& line = m_log[m_log.size() - shown + item.itemID];
-    const size_t json = std::min(line.find('{'), line.size());
-    const std::wstring summary = toWide(line.substr(0, json));
-    RECT area = item.rcItem;
-    area.left += LOG_TEXT_MARGIN;
-    m_theme.write(item.hDC, area, summary, m_theme.text(), Theme::INK, DT_LEFT);
-    area.left += m_theme.widthOf(item.hDC, summary, m_theme.text());
-    m_theme.write(item.hDC, area, toWide(line.substr(json)), m_theme.smallText(), Theme::FAINT, DT_LEFT);
-}
-
-void EditorWindow::pressButton(size_t index) {
-    switch (index) {
-    case OPEN_VIDEO:
-        openVideoByDialog();
+void EditorWindow::OnDrawItem(const DRAWITEMSTRUCT& item) const {
+    switch (item.CtlID) {
+    case ToolListControl:
+        toolList->Draw(item);
         break;
-    case PLAY:
-        play(!m_playing);
+    case RuleListControl:
+        ruleList->Draw(item);
         break;
-    case LOAD:
-        loadByDialog();
+    case LogControl:
+        logList->Draw(item);
         break;
-    case SAVE:
-        saveByDialog();
-        break;
-    case DESELECT:
-        m_scene.select(m_scene.entries().size());
-        break;
-    case DELETE_RULE:
-        deleteCurrent();
-        break;
-    case CLEAR:
-        m_scene.clear();
-        break;
-    case COLOUR:
-        colourByDialog();
+    case HelpControl:
+        helpLine->Draw(item);
         break;
     default:
-        nextDirection();
+        bar->Draw(item);
         break;
     }
-    refresh();
 }
 
-void EditorWindow::openVideoByDialog() {
-    const std::wstring path = askForPath(false, VIDEO_FILTER, nullptr);
-    if (path.empty()) {
-        return;
+void EditorWindow::Play(bool start) {
+    playing = start && video->FramesPerSecond() > 0.0;
+    KillTimer(Handle(), PlayTimer);
+    if (playing) {
+        SetTimer(Handle(), PlayTimer, static_cast<UINT>(1000.0 / video->FramesPerSecond()), nullptr);
     }
-    m_video = openVideo(path);
-    showVideo();
-    layout();
-    play(true);
+    bar->SetCaption(Command::Play, playing ? L"Pause" : L"Play");
 }
 
-void EditorWindow::loadByDialog() {
-    const std::wstring path = askForPath(false, RULES_FILTER, L"json");
-    if (!path.empty()) {
-        load(path);
-    }
+void EditorWindow::RunScript(std::function<void()> step, std::function<void(const std::string&)> failed) {
+    scriptStep = std::move(step);
+    scriptFailed = std::move(failed);
+    view->ListenToScriptOnly();
+    NextStep();
 }
 
-void EditorWindow::saveByDialog() {
-    const std::wstring path = askForPath(true, RULES_FILTER, L"json");
-    if (!path.empty()) {
-        save(path);
-    }
-}
-
-void EditorWindow::deleteCurrent() {
-    m_scene.remove(currentRule());
-    refresh();
-}
-
-/* One colour for both looks: the width and the handles still tell a selected rule. */
-void EditorWindow::colourByDialog() {
-    const size_t rule = currentRule();
-    if (rule >= m_scene.entries().size()) {
-        return;
-    }
-    static COLORREF custom[16] = {};
-    CHOOSECOLORW choice = {};
-    choice.lStructSize = sizeof choice;
-    choice.hwndOwner = Handle();
-    choice.lpCustColors = custom;
-    choice.Flags = CC_FULLOPEN | CC_RGBINIT;
-    if (!ChooseColorW(&choice)) {
-        return;
-    }
-    const Colour colour = {GetRValue(choice.rgbResult), GetGValue(choice.rgbResult), GetBValue(choice.rgbResult)};
-    m_scene.SetColour(rule, Outline::Selected, colour);
-    m_scene.SetColour(rule, Outline::Unselected, colour);
-}
-
-void EditorWindow::nextDirection() {
-    constexpr int32_t LAST_DIRECTION = 5;
-    const size_t rule = currentRule();
-    if (rule >= m_scene.entries().size()) {
-        return;
-    }
-    const int32_t direction = m_scene.entries()[rule].rule.direction.value_or(-1);
-    m_scene.SetDirection(rule, direction >= LAST_DIRECTION ? -1 : direction + 1);
-    log(m_scene.entries()[rule].rule.name + ": direction " + std::to_string(*m_scene.entries()[rule].rule.direction));
-}
-
-std::wstring EditorWindow::askForPath(bool toSave, const wchar_t* filter, const wchar_t* extension) {
-    wchar_t path[MAX_PATH] = {};
-    OPENFILENAMEW dialog = {};
-    dialog.lStructSize = sizeof dialog;
-    dialog.hwndOwner = Handle();
-    dialog.lpstrFilter = filter;
-    dialog.lpstrFile = path;
-    dialog.nMaxFile = MAX_PATH;
-    dialog.lpstrDefExt = extension;
-    dialog.Flags = OFN_NOCHANGEDIR | (toSave ? OFN_OVERWRITEPROMPT : OFN_FILEMUSTEXIST);
-    const bool chosen = toSave ? GetSaveFileNameW(&dialog) != FALSE : GetOpenFileNameW(&dialog) != FALSE;
-    return chosen ? path : std::wstring();
+void EditorWindow::NextStep() {
+    PostMessageW(Handle(), NextStepMessage, 0, 0);
 }
 
 } // namespace rule_editor

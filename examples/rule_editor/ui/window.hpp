@@ -1,6 +1,6 @@
 #pragma once
 
-#include "picture/frame.hpp"
+#include <rulecanvas_kit/rule.hpp>
 
 #include <windows.h>
 
@@ -8,33 +8,35 @@
 
 namespace rule_editor {
 
-/* A window of this program's own kind: routes messages to a member function. It ends its window with itself. */
+using rulecanvas::kit::Size;
+
+/// A window of this program's own kind: routes messages to a member function. It ends its window with itself.
 class Window {
   public:
     virtual ~Window();
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    HWND Handle() const { return m_handle; }
-    Size clientSize() const;
-    void redraw() const { InvalidateRect(m_handle, nullptr, FALSE); }
+    HWND Handle() const { return handle; }
+    Size ClientSize() const;
+    void Redraw() const { InvalidateRect(handle, nullptr, FALSE); }
 
   protected:
     Window() = default;
 
-    /* Makes the window. Windows of this kind paint all of their client area and are never erased. */
-    void create(const wchar_t* className, const wchar_t* title, DWORD style, HWND parent);
+    /// Makes the window. Windows of this kind paint all of their client area and are never erased.
+    void Create(const wchar_t* className, const wchar_t* title, DWORD style, HWND parent);
 
-    /* Messages may arrive from create() on. */
-    virtual LRESULT onMessage(UINT message, WPARAM wParam, LPARAM lParam);
-    /* An exception left onMessage, which the system's own frames must not see. */
-    virtual void onFailure(const std::string& problem) = 0;
+    /// Messages may arrive from Create() on.
+    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    /// An exception left OnMessage, which the system's own frames must not see.
+    virtual void OnFailure(const std::string& problem) = 0;
 
   private:
-    static LRESULT CALLBACK procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT guardedMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK Procedure(HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT GuardedMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
-    HWND m_handle = nullptr;
+    HWND handle = nullptr;
 };
 
 } // namespace rule_editor

@@ -1,6 +1,6 @@
 #include "video/still_video.hpp"
 
-#include "picture/gdiplus.hpp"
+#include <rulecanvas_kit/gdiplus.hpp>
 
 #include <algorithm>
 #include <stdexcept>
@@ -20,10 +20,10 @@ StillVideo::StillVideo(const std::wstring& path) {
     if (bitmap.LockBits(&all, Gdiplus::ImageLockModeRead, PixelFormat32bppRGB, &data) != Gdiplus::Ok) {
         throw std::runtime_error("the picture cannot be decoded");
     }
-    m_picture.resize({width, height});
+    picture.Resize({width, height});
     const BYTE* line = static_cast<const BYTE*>(data.Scan0);
     for (int y = 0; y < height; ++y, line += data.Stride) {
-        std::copy_n(reinterpret_cast<const uint32_t*>(line), width, m_picture.row(y));
+        std::copy_n(reinterpret_cast<const uint32_t*>(line), width, picture.Row(y));
     }
     bitmap.UnlockBits(&data);
 }

@@ -4,19 +4,19 @@
 
 namespace rule_editor {
 
-/* One picture of any format that GDI+ reads, such as PNG and JPEG. */
+/// One picture of any format that GDI+ reads, such as PNG and JPEG.
 class StillVideo final : public VideoSource {
   public:
-    /* Throws std::runtime_error when the file holds no such picture. */
+    /// Throws std::runtime_error when the file holds no such picture.
     explicit StillVideo(const std::wstring& path);
 
-    Size size() const override { return m_picture.size; }
-    int frameCount() const override { return 1; }
-    double framesPerSecond() const override { return 0.0; }
-    Frame frame(int) override { return m_picture; }
+    Size PictureSize() const override { return picture.size; }
+    int FrameCount() const override { return 1; }
+    double FramesPerSecond() const override { return 0.0; }
+    Frame FrameAt(int) override { return picture; }
 
   private:
-    Frame m_picture;
+    Frame picture;
 };
 
 } // namespace rule_editor

@@ -4,18 +4,18 @@
 
 namespace rule_editor {
 
-/* The built-in scene: a street seen by a camera above it, with cars and people. It repeats without a seam. */
+/// The built-in scene: a street seen by a camera above it, with cars. It repeats without a seam.
 class StreetVideo final : public VideoSource {
   public:
     StreetVideo();
 
-    Size size() const override;
-    int frameCount() const override;
-    double framesPerSecond() const override;
-    Frame frame(int index) override;
+    Size PictureSize() const override;
+    int FrameCount() const override;
+    double FramesPerSecond() const override;
+    Frame FrameAt(int index) override;
 
   private:
-    Frame m_empty; /* The street without traffic, in the size that is drawn in. */
+    Frame empty; ///< The street without traffic, in twice the size of the picture: scaling it down gives soft edges.
 };
 
 } // namespace rule_editor
