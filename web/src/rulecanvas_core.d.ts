@@ -1,0 +1,3 @@
+import type { CoreModule } from "./core.js";
+
+export default function createCore(settings?: { wasmBinary?: ArrayBuffer; locateFile?: (name: string) => string }): Promise<CoreModule>;
