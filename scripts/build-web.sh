@@ -30,5 +30,6 @@ cp "$out/core/rulecanvas_core.js" "$out/core/rulecanvas_core.wasm" web/src/rulec
 
 say "[3/3] the page"
 "$typescript" -p web/page
-cp web/page/*.html web/page/*.css "$out/site/"
+cp web/page/*.html web/page/*.css web/page/*.rules.json "$out/site/"
+printf '{ "clip": null, "rules": "street.rules.json" }\n' >"$out/site/start.json"
 cp -r "$out/dist" "$out/site/rulecanvas"

@@ -8,6 +8,7 @@ export interface RuleOwner {
     /** The geometry as it is now; null while there is none. */
     configurationOf(rule: Rule): Configuration | null;
     pointsOf(rule: Rule): Point[];
+    recordOf(rule: Rule): RuleRecord;
     isSelected(rule: Rule): boolean;
     select(rule: Rule | null): void;
     /** Hands changed members of the record to the shape. */
@@ -115,6 +116,11 @@ export class Rule {
     /** The points in pixels of the picture; empty while there are none. A pixel counter has none: it is a size. */
     get points(): Point[] {
         return this.owner.pointsOf(this);
+    }
+
+    /** The rule as a rules file keeps it. */
+    get record(): RuleRecord {
+        return this.owner.recordOf(this);
     }
 
     get selected(): boolean {
