@@ -23,7 +23,7 @@ const FINGER_HANDLE_SCALE = 1.6;
 export class Board {
     readonly host: Host;
     /** Fingers get larger handles. */
-    pointing: Pointing = "mouse";
+    pointing: Pointing = matchMedia("(pointer: coarse)").matches ? "touch" : "mouse";
     private readonly stage: Stage;
     private readonly painter: Painter;
     private readonly texts = new TextPen();

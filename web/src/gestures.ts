@@ -44,6 +44,7 @@ export class Gestures implements InputSink {
             this.noticePoints(before);
             this.noticeSpot();
             this.takeDeletedAway();
+            this.model.noticeDrawing();
         });
         if (code !== MOUSE.moved) {
             this.model.selectionTouched();

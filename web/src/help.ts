@@ -3,8 +3,8 @@ import type { Rule } from "./rule.js";
 /** How the user points: fingers have no right button. */
 export type Pointing = "mouse" | "touch";
 
-function finishing(pointing: Pointing): string {
-    return pointing === "touch" ? "hold the finger still" : "press the right button or Enter";
+function pressing(pointing: Pointing): string {
+    return pointing === "touch" ? "Tap" : "Click";
 }
 
 function toStart({ facts }: Rule, pointing: Pointing): string {
@@ -12,11 +12,11 @@ function toStart({ facts }: Rule, pointing: Pointing): string {
         case "drag":
             return "Press in the picture and drag to the opposite corner.";
         case "line":
-            return facts.points[1] > 2 && facts.type !== "ArrowLineShape" ? "Click the first point." : "Press and drag, or click both ends.";
+            return `Press and drag, or ${pressing(pointing).toLowerCase()} both ends.`;
         case "path":
-            return pointing === "touch" ? "Tap the first point." : "Click the first point.";
+            return `${pressing(pointing)} the first point.`;
         case "marks":
-            return facts.points[1] > 1 ? "Click each place in the picture." : "Click the place in the picture.";
+            return `${pressing(pointing)} ${facts.points[1] > 1 ? "each place" : "the place"} in the picture.`;
     }
 }
 
@@ -25,11 +25,13 @@ function toGoOn({ facts }: Rule, pointing: Pointing): string {
         case "drag":
             return "Drag to the opposite corner and let go.";
         case "line":
-            return "Drag to the other end and let go, or click there.";
+            return `Drag to the other end and let go, or ${pressing(pointing).toLowerCase()} there.`;
         case "path":
-            return `Click the next point; ${finishing(pointing)} to finish, Escape to give up.`;
+            return pointing === "touch"
+                ? "Tap the next point; hold the finger still to finish."
+                : "Click the next point; press the right button or Enter to finish, Escape to give up.";
         case "marks":
-            return "Click the next place.";
+            return `${pressing(pointing)} the next place.`;
     }
 }
 

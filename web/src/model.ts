@@ -21,6 +21,8 @@ export class Model implements RuleOwner {
     readonly set: RuleSet;
     /** The rule that the user is drawing or is to draw. */
     drawn: Rule | null = null;
+    /** Whether the library has taken the mouse since the drawn rule was added. */
+    private captured = false;
     private configurations = new WeakMap<Rule, Configuration | null>();
     private selectedShapes = new Set<number>();
     private selectionMayDiffer = false;
@@ -60,6 +62,32 @@ export class Model implements RuleOwner {
         this.events.emit("state", { rule, from, to: rule.state });
         if (rule.state === "complete") {
             this.finished(rule);
+        }
+    }
+
+    /** The library takes the mouse, or gives it back. */
+    capture(taken: boolean): void {
+        this.captured = taken;
+        this.events.emit("capture", { taken });
+    }
+
+    /** A rule from which the user begins to draw. */
+    startDrawing(rule: Rule): void {
+        this.drawn = rule;
+        this.captured = false;
+    }
+
+    /** The library does not say that a drawing began or was given up, but it holds the mouse from then to then. */
+    noticeDrawing(): void {
+        const rule = this.drawn;
+        if (rule === null || (rule.state !== "waiting" && rule.state !== "drawing")) {
+            return;
+        }
+        const from = rule.state;
+        const goesOn = rule.facts.drawing === "marks" && from === "drawing";
+        rule.state = this.captured || goesOn ? "drawing" : "waiting";
+        if (rule.state !== from) {
+            this.events.emit("state", { rule, from, to: rule.state });
         }
     }
 
@@ -235,7 +263,7 @@ export class Model implements RuleOwner {
             this.board.host.redraw(rule.shape);
             this.configurations.delete(rule);
             rule.state = "waiting";
-            this.drawn = rule;
+            this.startDrawing(rule);
         });
     }
 

@@ -16,6 +16,10 @@ export function isHandle(left: number, top: number, right: number, bottom: numbe
     return penWidth === HANDLE_PEN && isSide(right - left) && isSide(bottom - top);
 }
 
+function inside(value: number, low: number, high: number): number {
+    return Math.max(low, Math.min(value, high));
+}
+
 /** Draws a recording on a 2D canvas. Strokes of one pen are gathered into one path. */
 export class Painter implements RecordingReader {
     private width = 1;
@@ -23,6 +27,8 @@ export class Painter implements RecordingReader {
     private patterned = false;
     private gathered = 0;
     private handleScale = 1;
+    private viewWidth = 0;
+    private viewHeight = 0;
 
     constructor(private readonly context: CanvasRenderingContext2D, private readonly texts: TextPen) {}
 
@@ -32,6 +38,8 @@ export class Painter implements RecordingReader {
         this.context.setTransform(1, 0, 0, 1, 0, 0);
         this.context.clearRect(0, 0, canvas.width, canvas.height);
         this.context.setTransform(ratioX, 0, 0, ratioY, 0, 0);
+        this.viewWidth = canvas.width / ratioX;
+        this.viewHeight = canvas.height / ratioY;
         this.handleScale = handleScale;
         this.gathered = 0;
         this.context.beginPath();
@@ -90,9 +98,11 @@ export class Painter implements RecordingReader {
         this.context.fillRect(left, top, right - left, bottom - top);
     }
 
+    /** A text that would leave the picture is moved into it. */
     text(x: number, y: number, size: number, colour: number, text: string): void {
         this.stroke();
-        this.texts.draw(this.context, x, y, text, size, colour);
+        const [width, height] = this.texts.measure(this.context, text, size);
+        this.texts.draw(this.context, inside(x, 0, this.viewWidth - width), inside(y, 0, this.viewHeight - height), text, size, colour);
     }
 
     /** Above the first point of the figure, or below it where there is no room, and never outside the clip. */
@@ -101,7 +111,6 @@ export class Painter implements RecordingReader {
         const [left = 0, top = 0, right = 0, bottom = 0] = clip;
         const [width, height] = this.texts.measure(this.context, text, 0);
         const above = y - height - CAPTION_GAP;
-        const inside = (value: number, low: number, high: number): number => Math.max(low, Math.min(value, high));
         const at = above >= top ? above : y + CAPTION_GAP;
         this.texts.draw(this.context, inside(x, left, right - width), inside(at, top, bottom - height), text, 0, colour);
     }

@@ -67,7 +67,7 @@ export class RuleCanvas extends TypedEvents {
         this.ownsCanvas = target !== null;
         this.board = new Board(core, canvas, target, view, options.picture, {
             notified: (text) => this.model.notified(text),
-            captured: (taken) => this.emit("capture", { taken }),
+            captured: (taken) => this.model.capture(taken),
             resized: () => this.model?.forgetConfigurations(),
             beforeFrame: () => this.model.readSelection(),
         });
@@ -153,7 +153,7 @@ export class RuleCanvas extends TypedEvents {
                 if (record.configuration) {
                     model.settle([rule]);
                 } else {
-                    model.drawn = rule;
+                    model.startDrawing(rule);
                 }
                 if (options.selected ?? !record.configuration) {
                     model.select(rule);
