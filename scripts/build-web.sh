@@ -25,7 +25,9 @@ say "[1/3] the core, by emscripten; the first time takes a minute"
 say "[2/3] the module"
 rm -rf "$out/dist" "$out/site"
 mkdir -p "$out/dist" "$out/site"
-"$typescript" -p web
+# Comments are for the declarations; a visitor need not download them.
+"$typescript" -p web --declaration --emitDeclarationOnly
+"$typescript" -p web --declaration false --removeComments
 cp "$out/core/rulecanvas_core.js" "$out/core/rulecanvas_core.wasm" web/src/rulecanvas_core.d.ts "$out/dist/"
 
 say "[3/3] the page"

@@ -9,6 +9,7 @@
 #   bench   Google Benchmark
 #   lint    clang-format and clang-tidy
 #   demo    a virtual display, a video converter and the fonts of the demonstrations
+#   web     emscripten, a browser and the packages of web/package.json
 # Without a group: build and test.
 set -euo pipefail
 
@@ -23,6 +24,7 @@ steps=0
 packages=()
 want_jsoncpp=false
 want_wine=false
+want_npm=false
 
 select_group() {
     case $1 in
@@ -39,7 +41,14 @@ select_group() {
         bench) packages+=(libbenchmark-dev) ;;
         lint) packages+=(clang-format clang-tidy) ;;
         demo) packages+=(xvfb ffmpeg fonts-liberation) ;;
-        *) die "unknown group '$1'; known are build, test, fuzz, bench, lint and demo" ;;
+        web)
+            packages+=(cmake ninja-build g++ dpkg-dev libjsoncpp-dev emscripten chromium fonts-liberation)
+            command -v node >/dev/null || packages+=(nodejs)
+            command -v npm >/dev/null || packages+=(npm)
+            want_jsoncpp=true
+            want_npm=true
+            ;;
+        *) die "unknown group '$1'; known are build, test, fuzz, bench, lint, demo and web" ;;
     esac
 }
 
@@ -78,6 +87,9 @@ missing_packages() {
 jsoncpp_ready() { [[ -f $jsoncpp/CMakeLists.txt ]]; }
 
 wine_ready() { [[ -f $prefix/.complete ]]; }
+
+# The list that npm keeps of what it installed is younger than the list of what is wanted.
+npm_ready() { [[ $root/web/node_modules/.package-lock.json -nt $root/web/package.json ]]; }
 
 as_root() {
     if ((EUID == 0)); then
@@ -163,12 +175,20 @@ create_wine_prefix() {
     touch "$prefix/.complete"
 }
 
+install_npm_packages() {
+    begin "installing the packages of web/package.json"
+    (cd "$root/web" && npm install --no-audit --no-fund) >>"$log" 2>&1 ||
+        die_with_log "the packages of web/package.json are missing: npm install failed"
+    touch "$root/web/node_modules/.package-lock.json"
+}
+
 count_steps() {
     steps=0
     mapfile -t missing < <(missing_packages)
     if ((${#missing[@]} > 0)); then steps=$((steps + 1)); fi
     if $want_jsoncpp && ! jsoncpp_ready; then steps=$((steps + 1)); fi
     if $want_wine && ! wine_ready; then steps=$((steps + 1)); fi
+    if $want_npm && ! npm_ready; then steps=$((steps + 1)); fi
 }
 
 (($# > 0)) || set -- build test
@@ -200,4 +220,5 @@ if ((${#missing[@]} > 0)); then
 fi
 if $want_jsoncpp && ! jsoncpp_ready; then fetch_jsoncpp; fi
 if $want_wine && ! wine_ready; then create_wine_prefix; fi
+if $want_npm && ! npm_ready; then install_npm_packages; fi
 say "done"

@@ -27,6 +27,7 @@ export class TypedEvents extends EventTarget {
     private readonly queue: Event[] = [];
     private depth = 0;
 
+    /** Listens to one of the events. */
     override addEventListener<K extends keyof RuleCanvasEvents>(
         type: K,
         listener: (event: CustomEvent<RuleCanvasEvents[K]>) => void,

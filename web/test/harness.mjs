@@ -1,6 +1,4 @@
 // What every browser test needs: a list of tests, a browser, a server, and checks.
-import { mkdtemp, rm } from "node:fs/promises";
-import { tmpdir } from "node:os";
 import { dirname, join, resolve } from "node:path";
 import { fileURLToPath } from "node:url";
 import { chromium } from "playwright-core";
@@ -22,13 +20,11 @@ export function test(name, run) {
 }
 
 export async function startBrowser() {
-    const profile = await mkdtemp(join(tmpdir(), "rulecanvas-web-"));
     const browser = await chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: FLAGS });
     const { server, address } = await serve({ "/": join(built, "site"), "/test/": join(root, "web/test") });
     const end = async () => {
         await browser.close();
         server.close();
-        await rm(profile, { recursive: true, force: true });
     };
     return { browser, address, end };
 }

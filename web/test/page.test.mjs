@@ -98,6 +98,7 @@ test("the properties of a rule", async (session) => {
     await page.getByLabel("Name").press("Enter");
     await page.locator(".toast").waitFor();
     equal(await page.evaluate("ruleCanvas.selected.name"), "crossing", "a name that is taken");
+    equal(await page.getByLabel("Name").inputValue(), "crossing", "the field of a refused name");
     await picture(page, "properties");
     equal(complaints, [], "the browser's complaints");
     await close();

@@ -19,12 +19,22 @@ let history: History;
 let tool: RuleType | null = null;
 let drawnRules = 0;
 
-function optionsFor(type: RuleType): AddOptions {
-    const options: AddOptions = { type, colours: { unselected: PALETTE[drawnRules % PALETTE.length]!, selected: SELECTED } };
-    if (type === "CrossShape") {
-        options.count = 1;
+/** Tripwires and arrows are nothing without a direction. */
+const DIRECTIONS: { readonly [K in RuleType]?: number } = { XLineShape: 0, ArrowLineShape: 5 };
+
+function freeName(title: string): string {
+    let number = 1;
+    while (canvas.rule(`${title} ${number}`)) {
+        ++number;
     }
-    return options;
+    return `${title} ${number}`;
+}
+
+function optionsFor(type: RuleType): AddOptions {
+    const { title } = RULE_TYPES.find((facts) => facts.type === type)!;
+    const colours = { unselected: PALETTE[drawnRules % PALETTE.length]!, selected: SELECTED };
+    const direction = DIRECTIONS[type];
+    return { type, name: freeName(title), colours, ...(direction !== undefined && { direction }) };
 }
 
 /** Takes a tool up, or lays all down. */

@@ -62,14 +62,14 @@ function modeRow(rule: Rule): HTMLElement | null {
     return row("Behaviour", choice(option ?? "", choices, (mode) => rule.replace({ option: mode === "" ? undefined : mode })));
 }
 
-/** Shows what can be set on a rule; null hides it. */
-export function showProperties(rule: Rule | null): void {
+/** Shows what can be set on a rule; null hides it. What the user is typing is left alone, unless it is refused. */
+export function showProperties(rule: Rule | null, refused = false): void {
     const section = byId("properties");
     section.hidden = rule === null;
-    if (rule === null || section.contains(document.activeElement)) {
+    if (rule === null || (!refused && section.contains(document.activeElement))) {
         return;
     }
-    const again = (): void => showProperties(rule);
+    const again = (): void => showProperties(rule, true);
     const { facts } = rule;
     const rows: (HTMLElement | null)[] = [
         make("h2", { textContent: facts.title }),
