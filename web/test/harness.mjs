@@ -19,9 +19,10 @@ export function test(name, run) {
     tests.push({ name, run });
 }
 
-export async function startBrowser() {
-    const browser = await chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: FLAGS });
-    const { server, address } = await serve({ "/": join(built, "site"), "/test/": join(root, "web/test") });
+/** `folders` are served beside the page's; `flags` are for the browser. */
+export async function startBrowser({ folders = {}, flags = [] } = {}) {
+    const browser = await chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: [...FLAGS, ...flags] });
+    const { server, address } = await serve({ "/": join(built, "site"), "/test/": join(root, "web/test"), ...folders });
     const end = async () => {
         await browser.close();
         server.close();
