@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the browser's module into build/web/dist and the demonstration page with it into build/web/site.
+# Builds the browser's module (index.js with its declarations and the .wasm file) into build/web/dist, and the
+# demonstration page with it into build/web/site.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -8,7 +9,7 @@ cd "$root"
 
 # emscripten's optimiser looks for its parser among node's packages.
 export NODE_PATH=$root/web/node_modules
-typescript=$root/web/node_modules/.bin/tsc
+binaries=$root/web/node_modules/.bin
 
 say() { printf 'build-web: %s\n' "$*"; }
 
@@ -23,15 +24,15 @@ say "[1/3] the core, by emscripten; the first time takes a minute"
 }
 
 say "[2/3] the module"
-rm -rf "$out/dist" "$out/site"
+rm -rf "$out/js" "$out/dist" "$out/site"
 mkdir -p "$out/dist" "$out/site"
-# Comments are for the declarations; a visitor need not download them.
-"$typescript" -p web --declaration --emitDeclarationOnly
-"$typescript" -p web --declaration false --removeComments
-cp "$out/core/rulecanvas_core.js" "$out/core/rulecanvas_core.wasm" web/src/rulecanvas_core.d.ts "$out/dist/"
+"$binaries/tsc" -p web --outDir "$out/js" --declarationDir "$out/dist"
+cp "$out/core/rulecanvas_core.js" "$out/js/"
+cp "$out/core/rulecanvas_core.wasm" web/src/rulecanvas_core.d.ts "$out/dist/"
+"$binaries/esbuild" "$out/js/index.js" --bundle --minify --format=esm --target=es2022 --log-level=warning --outfile="$out/dist/index.js"
 
 say "[3/3] the page"
-"$typescript" -p web/page
+"$binaries/tsc" -p web/page
 cp web/page/*.html web/page/*.css web/page/*.rules.json "$out/site/"
 printf '{ "clip": null, "rules": "street.rules.json" }\n' >"$out/site/start.json"
 cp -r "$out/dist" "$out/site/rulecanvas"
