@@ -44,10 +44,11 @@ async function measure(subject, steps) {
     const middle = middles[DRAGGED];
     send("move", middle);
     await rendered();
-    // A press selects; what begins a drag is the second one, which all libraries take alike.
-    const press = await timed(() => send("down", middle));
-    send("up", middle);
-    await rendered();
+    // Some libraries select when the button goes down, some when it comes up: a press is both.
+    const press = await timed(() => {
+        send("down", middle);
+        send("up", middle);
+    });
     await rendered();
     const before = scene.placeOf(DRAGGED).map(Number);
     send("move", middle);

@@ -1,11 +1,13 @@
 import type { CoreModule } from "./core.js";
+import { DisplayList } from "./display_list.js";
 import type { Point, Size } from "./geometry.js";
 import type { Pointing } from "./help.js";
 import { Host } from "./host.js";
 import { Painter } from "./painter.js";
-import { readRecording, type Recording } from "./recording.js";
+import type { Recording } from "./recording.js";
 import { naturalSize, Stage, type Target } from "./stage.js";
 import { TextPen } from "./text.js";
+import { TextPlaces } from "./text_places.js";
 
 /** What the board tells. */
 export interface BoardListener {
@@ -26,9 +28,15 @@ export class Board {
     pointing: Pointing = matchMedia("(pointer: coarse)").matches ? "touch" : "mouse";
     private readonly stage: Stage;
     private readonly painter: Painter;
+    private readonly places: TextPlaces;
     private readonly texts = new TextPen();
     private readonly context: CanvasRenderingContext2D;
     private frame = 0;
+    /** What the canvas shows. */
+    private drawn: DisplayList | null = null;
+    /** Whether a paint ahead differed from what the canvas shows. */
+    private differs = false;
+    /** Whether everything has to be drawn, whatever the canvas shows. */
     private mustDraw = true;
     private ended = false;
 
@@ -41,7 +49,8 @@ export class Board {
         private readonly listener: BoardListener,
     ) {
         this.context = canvas.getContext("2d")!;
-        this.painter = new Painter(this.context, this.texts);
+        this.places = new TextPlaces(this.context, this.texts);
+        this.painter = new Painter(this.context, this.texts, this.places);
         this.host = new Host(core, {
             notified: (text) => listener.notified(text),
             captured: (taken) => listener.captured(taken),
@@ -74,12 +83,12 @@ export class Board {
 
     /** Lets the library paint before a frame does: some shapes take over in a paint what was done to them. */
     paintAhead(): Recording {
-        this.mustDraw = this.host.paint(this.view) || this.mustDraw;
+        this.differs = this.host.paint(this.view) || this.differs;
         this.requestFrame();
         return this.host.recording();
     }
 
-    /** Draws at once instead of with the next frame. Nothing is drawn where nothing differs. */
+    /** Draws at once instead of with the next frame: what differs from what the canvas shows. */
     render(): void {
         cancelAnimationFrame(this.frame);
         this.frame = 0;
@@ -87,12 +96,13 @@ export class Board {
             return;
         }
         this.listener.beforeFrame();
-        const differs = this.host.paint(this.view);
-        if (differs || this.mustDraw) {
+        if (this.host.paint(this.view) || this.differs || this.mustDraw) {
+            const list = new DisplayList(this.host.recording(), this.places);
+            const parts = this.mustDraw || this.drawn === null ? null : list.damageSince(this.drawn);
+            this.painter.draw(list, parts, this.stage.ratio, this.pointing === "touch" ? FINGER_HANDLE_SCALE : 1);
+            this.drawn = list;
+            this.differs = false;
             this.mustDraw = false;
-            this.painter.begin(...this.stage.ratio, this.pointing === "touch" ? FINGER_HANDLE_SCALE : 1);
-            readRecording(this.host.recording(), this.painter);
-            this.painter.end();
         }
     }
 
@@ -116,6 +126,7 @@ export class Board {
         }
         const { width, height } = this.size;
         this.host.resize(width, height);
+        this.places.view = this.size;
         this.host.setVideoSize(this.picture.width, this.picture.height);
         if (this.texts.follow(this.canvas)) {
             this.host.forgetMeasures();

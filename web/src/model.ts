@@ -41,7 +41,6 @@ export class Model implements RuleOwner {
     change<T>(call: () => T): T {
         return this.events.whole(() => {
             const result = this.quietly(call);
-            this.selectionMayDiffer = true;
             this.board.requestFrame();
             this.events.emit("rules", { rules: this.rules });
             return result;
@@ -148,11 +147,15 @@ export class Model implements RuleOwner {
         }
         this.selectionMayDiffer = false;
         const all = this.board.host.selected();
-        const mine = new Set(this.rules.map((rule) => rule.shape).filter((shape) => all.has(shape)));
-        const same = mine.size === this.selectedShapes.size && [...mine].every((shape) => this.selectedShapes.has(shape));
-        this.selectedShapes = mine;
+        this.takeSelection(new Set(this.rules.map((rule) => rule.shape).filter((shape) => all.has(shape))));
+    }
+
+    private takeSelection(shapes: Set<number>): void {
+        const same = shapes.size === this.selectedShapes.size && [...shapes].every((shape) => this.selectedShapes.has(shape));
+        this.selectionMayDiffer = false;
+        this.selectedShapes = shapes;
         if (!same) {
-            this.events.emit("select", { rules: this.rules.filter((rule) => mine.has(rule.shape)) });
+            this.events.emit("select", { rules: this.rules.filter((rule) => shapes.has(rule.shape)) });
         }
     }
 
@@ -161,8 +164,7 @@ export class Model implements RuleOwner {
             for (const rule of this.rules) {
                 this.board.host.select(rule.shape, rule === wanted);
             }
-            this.selectionMayDiffer = true;
-            this.readSelection();
+            this.takeSelection(new Set(wanted === null ? [] : [wanted.shape]));
             this.board.requestFrame();
         });
     }
@@ -207,6 +209,7 @@ export class Model implements RuleOwner {
             this.set.replaceFrom(from, wanted);
             this.settle(this.rules.slice(from), boxes);
             this.rules.forEach((rule) => this.board.host.select(rule.shape, selected.has(rule)));
+            this.takeSelection(new Set(this.rules.filter((rule) => selected.has(rule)).map((rule) => rule.shape)));
         });
     }
 
@@ -223,7 +226,7 @@ export class Model implements RuleOwner {
             this.board.paintAhead();
         }
         for (const rule of rules) {
-            if (rule.kept.configuration && this.configurationOf(rule) === null) {
+            if (mayBeUnusable(rule) && this.configurationOf(rule) === null) {
                 rule.state = "waiting";
             }
         }
@@ -253,6 +256,7 @@ export class Model implements RuleOwner {
         this.change(() => {
             this.drawn = this.drawn === rule ? null : this.drawn;
             this.set.remove(rule);
+            this.selectionMayDiffer = true;
         });
     }
 
@@ -263,6 +267,7 @@ export class Model implements RuleOwner {
             this.board.host.redraw(rule.shape);
             this.configurations.delete(rule);
             rule.state = "waiting";
+            this.selectionMayDiffer = true;
             this.startDrawing(rule);
         });
     }
@@ -304,6 +309,13 @@ export class Model implements RuleOwner {
             this.making = before;
         }
     }
+}
+
+/** Whether the library may have accepted a geometry that it cannot use: too few points, or a rectangle that is too small. */
+function mayBeUnusable({ kept: { configuration, name }, facts, type }: Rule): boolean {
+    const geometry = configuration?.[name];
+    const isShort = !Array.isArray(geometry) || geometry.length < facts.points[0] || geometry.includes(null);
+    return configuration ? type === "Rect" || isShort : false;
 }
 
 /** A spot's radius is read by the library and not written. */

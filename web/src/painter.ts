@@ -1,8 +1,10 @@
+import { overlap, type Sides } from "./boxes.js";
+import type { DisplayList } from "./display_list.js";
+import type { Point } from "./geometry.js";
 import type { RecordingReader } from "./recording.js";
 import { cssColour, type TextPen } from "./text.js";
+import type { TextPlaces } from "./text_places.js";
 
-/** Between a caption and the point that it belongs to. */
-const CAPTION_GAP = 4;
 /** The library draws a handle as a square of this side. */
 export const HANDLE_SIDE = 6;
 const HANDLE_PEN = 2;
@@ -16,8 +18,9 @@ export function isHandle(left: number, top: number, right: number, bottom: numbe
     return penWidth === HANDLE_PEN && isSide(right - left) && isSide(bottom - top);
 }
 
-function inside(value: number, low: number, high: number): number {
-    return Math.max(low, Math.min(value, high));
+/** The same rectangle in whole canvas pixels, so that its border cuts none. */
+function wholePixels({ left, top, right, bottom }: Sides, ratioX: number, ratioY: number): Sides {
+    return { left: Math.floor(left * ratioX), top: Math.floor(top * ratioY), right: Math.ceil(right * ratioX), bottom: Math.ceil(bottom * ratioY) };
 }
 
 /** Draws a recording on a 2D canvas. Strokes of one pen are gathered into one path. */
@@ -27,33 +30,55 @@ export class Painter implements RecordingReader {
     private patterned = false;
     private gathered = 0;
     private handleScale = 1;
-    private viewWidth = 0;
-    private viewHeight = 0;
 
-    constructor(private readonly context: CanvasRenderingContext2D, private readonly texts: TextPen) {}
+    constructor(private readonly context: CanvasRenderingContext2D, private readonly texts: TextPen, private readonly places: TextPlaces) {}
 
-    /** Clears the canvas; `ratio` is canvas pixels for a pixel of the view, handles are drawn `handleScale` times as large. */
-    begin(ratioX: number, ratioY: number, handleScale: number): void {
-        const { canvas } = this.context;
-        this.context.setTransform(1, 0, 0, 1, 0, 0);
-        this.context.clearRect(0, 0, canvas.width, canvas.height);
-        this.context.setTransform(ratioX, 0, 0, ratioY, 0, 0);
-        this.viewWidth = canvas.width / ratioX;
-        this.viewHeight = canvas.height / ratioY;
+    /** Draws a list: in the parts of the view that are given, or everywhere. `ratio` is canvas pixels for a pixel of the
+     * view, handles are drawn `handleScale` times as large. */
+    draw(list: DisplayList, parts: readonly Sides[] | null, [ratioX, ratioY]: Point, handleScale: number): void {
+        const { context } = this;
         this.handleScale = handleScale;
-        this.gathered = 0;
-        this.context.beginPath();
+        context.save();
+        context.setTransform(1, 0, 0, 1, 0, 0);
+        this.clear(parts?.map((part) => wholePixels(part, ratioX, ratioY)) ?? null);
+        context.setTransform(ratioX, 0, 0, ratioY, 0, 0);
+        context.beginPath();
+        for (const item of list.items) {
+            if (parts === null || parts.some((part) => overlap(part, item))) {
+                this.usePen(item.width, item.colour, item.patterned);
+                list.read(item, this);
+            }
+        }
+        this.stroke();
+        context.restore();
     }
 
-    end(): void {
-        this.stroke();
+    /** The pen of each command is set before it is read. */
+    pen(): void {}
+
+    private usePen(width: number, colour: number, patterned: boolean): void {
+        if (width !== this.width || colour !== this.colour || patterned !== this.patterned) {
+            this.stroke();
+            this.width = width;
+            this.colour = colour;
+            this.patterned = patterned;
+        }
     }
 
-    pen(width: number, colour: number, patterned: boolean): void {
-        this.stroke();
-        this.width = width;
-        this.colour = colour;
-        this.patterned = patterned;
+    /** Empties the canvas, or parts of it, to which drawing is limited then. */
+    private clear(parts: readonly Sides[] | null): void {
+        const { context } = this;
+        const { width, height } = context.canvas;
+        if (parts === null) {
+            context.clearRect(0, 0, width, height);
+            return;
+        }
+        context.beginPath();
+        for (const { left, top, right, bottom } of parts) {
+            context.clearRect(left, top, right - left, bottom - top);
+            context.rect(left, top, right - left, bottom - top);
+        }
+        context.clip();
     }
 
     path(numbers: Float32Array, first: number, count: number): void {
@@ -98,21 +123,16 @@ export class Painter implements RecordingReader {
         this.context.fillRect(left, top, right - left, bottom - top);
     }
 
-    /** A text that would leave the picture is moved into it. */
     text(x: number, y: number, size: number, colour: number, text: string): void {
         this.stroke();
-        const [width, height] = this.texts.measure(this.context, text, size);
-        this.texts.draw(this.context, inside(x, 0, this.viewWidth - width), inside(y, 0, this.viewHeight - height), text, size, colour);
+        const placed = this.places.text(x, y, size, text);
+        this.texts.draw(this.context, placed.x, placed.y, text, size, colour);
     }
 
-    /** Above the first point of the figure, or below it where there is no room, and never outside the clip. */
     caption(x: number, y: number, colour: number, clip: readonly number[], text: string): void {
         this.stroke();
-        const [left = 0, top = 0, right = 0, bottom = 0] = clip;
-        const [width, height] = this.texts.measure(this.context, text, 0);
-        const above = y - height - CAPTION_GAP;
-        const at = above >= top ? above : y + CAPTION_GAP;
-        this.texts.draw(this.context, inside(x, left, right - width), inside(at, top, bottom - height), text, 0, colour);
+        const placed = this.places.caption(x, y, clip, text);
+        this.texts.draw(this.context, placed.x, placed.y, text, 0, colour);
     }
 
     private handle(x: number, y: number): void {
@@ -146,7 +166,8 @@ export class Painter implements RecordingReader {
         }
         const { context } = this;
         context.lineWidth = this.width;
-        context.lineJoin = "round";
+        context.lineJoin = "miter";
+        context.miterLimit = 4;
         context.strokeStyle = cssColour(this.colour);
         context.setLineDash(this.patterned ? PATTERN : []);
         context.stroke();

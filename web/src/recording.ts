@@ -21,7 +21,7 @@ export interface RecordingReader {
     caption(x: number, y: number, colour: number, clip: readonly number[], text: string): void;
 }
 
-const PEN = 1;
+export const PEN = 1;
 const PATH = 2;
 const RECTANGLE = 3;
 const ELLIPSE = 4;
@@ -32,48 +32,44 @@ const CAPTION = 8;
 
 const utf8 = new TextDecoder();
 
+/** Hands the command at an index to a reader. Where the next one begins. */
+export function readCommand(w: Uint32Array, n: Float32Array, at: number, reader: RecordingReader): number {
+    const textAt = (text: number): string => utf8.decode(new Uint8Array(w.buffer, w.byteOffset + (text + 1) * 4, w[text]!));
+    const afterText = (text: number): number => text + 1 + Math.ceil(w[text]! / 4);
+    const i = at + 1;
+    switch (w[at]) {
+        case PEN:
+            reader.pen(n[i]!, w[i + 1]!, w[i + 2] === 1);
+            return i + 3;
+        case PATH:
+            reader.path(n, i + 1, w[i]!);
+            return i + 1 + 2 * w[i]!;
+        case RECTANGLE:
+            reader.rectangle(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!);
+            return i + 4;
+        case ELLIPSE:
+            reader.ellipse(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!);
+            return i + 4;
+        case FILL_ELLIPSE:
+            reader.fillEllipse(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!, w[i + 4]!);
+            return i + 5;
+        case FILL_RECTANGLE:
+            reader.fillRectangle(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!, w[i + 4]!);
+            return i + 5;
+        case TEXT:
+            reader.text(n[i]!, n[i + 1]!, n[i + 2]!, w[i + 3]!, textAt(i + 4));
+            return afterText(i + 4);
+        case CAPTION:
+            reader.caption(n[i]!, n[i + 1]!, w[i + 2]!, [n[i + 3]!, n[i + 4]!, n[i + 5]!, n[i + 6]!], textAt(i + 7));
+            return afterText(i + 7);
+        default:
+            throw new Error(`The recording holds the unknown command ${w[at]}`);
+    }
+}
+
 /** Hands the commands of a recording to a reader, in order. */
-export function readRecording({ words: w, numbers: n, begin, end }: Recording, reader: RecordingReader): void {
-    const textAt = (at: number): string => utf8.decode(new Uint8Array(w.buffer, (at + 1) * 4, w[at]!));
-    const afterText = (at: number): number => at + 1 + Math.ceil(w[at]! / 4);
-    let i = begin;
-    while (i < end) {
-        const command = w[i++];
-        switch (command) {
-            case PEN:
-                reader.pen(n[i]!, w[i + 1]!, w[i + 2] === 1);
-                i += 3;
-                break;
-            case PATH:
-                reader.path(n, i + 1, w[i]!);
-                i += 1 + 2 * w[i]!;
-                break;
-            case RECTANGLE:
-                reader.rectangle(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!);
-                i += 4;
-                break;
-            case ELLIPSE:
-                reader.ellipse(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!);
-                i += 4;
-                break;
-            case FILL_ELLIPSE:
-                reader.fillEllipse(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!, w[i + 4]!);
-                i += 5;
-                break;
-            case FILL_RECTANGLE:
-                reader.fillRectangle(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!, w[i + 4]!);
-                i += 5;
-                break;
-            case TEXT:
-                reader.text(n[i]!, n[i + 1]!, n[i + 2]!, w[i + 3]!, textAt(i + 4));
-                i = afterText(i + 4);
-                break;
-            case CAPTION:
-                reader.caption(n[i]!, n[i + 1]!, w[i + 2]!, [n[i + 3]!, n[i + 4]!, n[i + 5]!, n[i + 6]!], textAt(i + 7));
-                i = afterText(i + 7);
-                break;
-            default:
-                throw new Error(`The recording holds the unknown command ${command}`);
-        }
+export function readRecording({ words, numbers, begin, end }: Recording, reader: RecordingReader): void {
+    for (let i = begin; i < end; ) {
+        i = readCommand(words, numbers, i, reader);
     }
 }

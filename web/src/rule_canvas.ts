@@ -159,6 +159,7 @@ export class RuleCanvas extends TypedEvents {
                     model.select(rule);
                 } else {
                     this.board.host.select(rule.shape, false);
+                    model.selectionTouched();
                 }
                 return rule;
             });

@@ -5,6 +5,8 @@ const DEFAULT_SIZE = 14;
 const PADDING_X = 3;
 const PADDING_Y = 2;
 const LINE_HEIGHT = 1.2;
+/** A pixel counter shows another text at every step; what is kept stays bounded. */
+const MOST_WIDTHS = 4096;
 
 /** The CSS colour of 0xRRGGBBAA. */
 export function cssColour(colour: number): string {
@@ -26,18 +28,31 @@ function inkOf(colour: number): number {
 export class TextPen {
     private family = "sans-serif";
 
+    private readonly widths = new Map<string, number>();
+
     /** Takes over the font of an element. Whether it is another one. */
     follow(element: Element): boolean {
         const family = getComputedStyle(element).fontFamily || "sans-serif";
         const changed = family !== this.family;
         this.family = family;
+        this.widths.clear();
         return changed;
     }
 
     /** Width and height of a text with the room round it. */
     measure(context: CanvasRenderingContext2D, text: string, size: number): [number, number] {
-        const pixels = this.select(context, size);
-        return [context.measureText(text).width + 2 * PADDING_X, pixels * LINE_HEIGHT + 2 * PADDING_Y];
+        const pixels = this.pixelsOf(size);
+        const key = `${pixels} ${text}`;
+        let width = this.widths.get(key);
+        if (width === undefined) {
+            this.select(context, size);
+            width = context.measureText(text).width;
+            if (this.widths.size >= MOST_WIDTHS) {
+                this.widths.clear();
+            }
+            this.widths.set(key, width);
+        }
+        return [width + 2 * PADDING_X, pixels * LINE_HEIGHT + 2 * PADDING_Y];
     }
 
     /** Draws a text with its top left at a place. */
@@ -54,8 +69,12 @@ export class TextPen {
         context.fillText(text, x + PADDING_X, middle);
     }
 
+    private pixelsOf(size: number): number {
+        return size < SMALLEST_SIZE ? DEFAULT_SIZE : size;
+    }
+
     private select(context: CanvasRenderingContext2D, size: number): number {
-        const pixels = size < SMALLEST_SIZE ? DEFAULT_SIZE : size;
+        const pixels = this.pixelsOf(size);
         context.font = `600 ${pixels}px ${this.family}`;
         return pixels;
     }

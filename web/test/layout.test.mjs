@@ -208,3 +208,41 @@ test("the library's own functions are within reach", async (session) => {
     equal(missing, [], "functions that are not there");
     await close();
 });
+
+test("what is drawn in parts is what is drawn as a whole", async (session) => {
+    const { page, close } = await openView(session, { deviceScaleFactor: 1.5 });
+    const style = { thickness: 3, unselectedThickness: 1 };
+    await add(page, { type: "Rect", name: "cells", style: { mosaic: 16 }, points: [[60, 60], [420, 300]] });
+    await add(page, { type: "Polygon", name: "field", caption: "Field", style, direction: 2, points: [[100, 100], [500, 120], [450, 400], [150, 380]] });
+    await add(page, { type: "XLineShape", name: "wire", caption: "Wire", direction: 2, points: [[50, 250], [400, 230], [700, 300]] });
+    await add(page, { type: "OvalShape", name: "tree", caption: "Tree", points: [[300, 200], [600, 350]] });
+    await add(page, { type: "SpotShape", name: "lamp", caption: "Lamp", mode: "solid", points: [[200, 200]] });
+    await add(page, { type: "BigCrossShape", name: "aim", points: [[350, 150], [250, 330]] });
+    /** Canvas pixels that a whole drawing changes by more than the smoothing of a cut line does, and those that differ from the last call's. */
+    const compare = () =>
+        page.evaluate(async () => {
+            const { canvas, board } = window.canvas;
+            const pixels = () => {
+                const copy = new OffscreenCanvas(canvas.width, canvas.height).getContext("2d", { willReadFrequently: true });
+                copy.fillStyle = "#808080";
+                copy.fillRect(0, 0, canvas.width, canvas.height);
+                copy.drawImage(canvas, 0, 0);
+                return copy.getImageData(0, 0, canvas.width, canvas.height).data;
+            };
+            const differing = (one, other) => one.filter((part, index) => Math.abs(part - (other?.[index] ?? 0)) > 48).length;
+            await new Promise((done) => requestAnimationFrame(() => setTimeout(done)));
+            const inParts = pixels();
+            board.invalidate();
+            board.render();
+            const changed = differing(inParts, window.lastPixels);
+            window.lastPixels = inParts;
+            return [differing(inParts, pixels()), changed];
+        });
+    for (const [from, to] of [[[440, 380], [500, 360]], [[350, 280], [300, 320]], [[200, 200], [230, 260]], [[400, 230], [420, 180]], [[780, 580], [790, 590]], [[250, 330], [280, 300]]]) {
+        await drag(page, from, to, 3);
+        const [wrong, changed] = await compare();
+        equal(wrong, 0, `wrong pixels after the drag from ${from}`);
+        isTrue(changed > 0, `the drag from ${from} changed the picture`);
+    }
+    await close();
+});
