@@ -64,8 +64,11 @@ export class RuleSet {
             return { rule, record, shape: this.createShape(rule, record) };
         });
         const refused = made.flatMap(({ record, shape }, index): RefusedRule[] => {
+            if (shape !== 0) {
+                return [];
+            }
             const { reason, message } = refusedConfiguration(record);
-            return shape === 0 ? [{ index: from + index, name: record.name, reason, message }] : [];
+            return [{ index: from + index, name: record.name, reason, message }];
         });
         if (refused.length > 0) {
             made.forEach(({ shape }) => this.host.delete(shape));
