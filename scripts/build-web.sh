@@ -29,7 +29,8 @@ mkdir -p "$out/dist" "$out/site"
 "$binaries/tsc" -p web --outDir "$out/js" --declarationDir "$out/dist"
 cp "$out/core/rulecanvas_core.js" "$out/js/"
 cp "$out/core/rulecanvas_core.wasm" web/src/rulecanvas_core.d.ts "$out/dist/"
-"$binaries/esbuild" "$out/js/index.js" --bundle --minify --format=esm --target=es2022 --log-level=warning --outfile="$out/dist/index.js"
+"$binaries/esbuild" "$out/js/index.js" --bundle --minify --format=esm --target=es2022 --log-level=warning \
+    --outfile="$out/dist/index.js"
 
 say "[3/3] the page"
 "$binaries/tsc" -p web/page

@@ -55,7 +55,8 @@ check "the API reference is that of the declarations" node web/tools/api-referen
 
 status=0
 node web/test/run.mjs | tee "$out/test.log" || status=$?
-read -r browser_passed browser_failed < <(sed -nE 's/^([0-9]+) passed, ([0-9]+) failed$/\1 \2/p' "$out/test.log") || true
+counts=$(sed -nE 's/^([0-9]+) passed, ([0-9]+) failed$/\1 \2/p' "$out/test.log")
+read -r browser_passed browser_failed <<<"$counts" || true
 passed=$((passed + ${browser_passed:-0}))
 failed=$((failed + ${browser_failed:-0}))
 if ((status != 0 && ${browser_failed:-0} == 0)); then

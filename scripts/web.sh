@@ -45,11 +45,13 @@ fetch_sample_video() {
     say "fetching the clip (package opencv-doc, about 100 MB)"
     local folder
     folder=$(mktemp -d "$work/fetch.XXXXXX")
-    (cd "$folder" && apt-get -o APT::Sandbox::User=root download opencv-doc) || die "the package opencv-doc cannot be fetched"
+    (cd "$folder" && apt-get -o APT::Sandbox::User=root download opencv-doc) ||
+        die "the package opencv-doc cannot be fetched"
     dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi' >"$video.part" ||
         {
             # In some releases the file is compressed inside the package.
-            dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi.gz' | gunzip >"$video.part"
+            dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi.gz' |
+                gunzip >"$video.part"
         }
     mv "$video.part" "$video"
     rm -rf "$folder"
@@ -58,7 +60,8 @@ fetch_sample_video() {
 convert_video() {
     if [[ $clip -nt $video && $(<"$clip.source") == "$video" ]]; then return 0; fi
     say "converting $clip_seconds seconds of $video"
-    ffmpeg -nostdin -v error -y -i "$video" -t "$clip_seconds" -an -c:v libvpx -b:v 2M -deadline realtime -cpu-used 4 "$clip" ||
+    ffmpeg -nostdin -v error -y -i "$video" -t "$clip_seconds" -an \
+        -c:v libvpx -b:v 2M -deadline realtime -cpu-used 4 "$clip" ||
         die "ffmpeg cannot read $video"
     printf '%s' "$video" >"$clip.source"
 }

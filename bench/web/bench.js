@@ -18,7 +18,16 @@ function rendered() {
 function send(kind, [x, y]) {
     const target = document.elementFromPoint(x, y);
     const buttons = kind === "up" ? 0 : 1;
-    const settings = { bubbles: true, composed: true, cancelable: true, clientX: x, clientY: y, button: kind === "move" ? -1 : 0, buttons, view: window };
+    const settings = {
+        bubbles: true,
+        composed: true,
+        cancelable: true,
+        clientX: x,
+        clientY: y,
+        button: kind === "move" ? -1 : 0,
+        buttons,
+        view: window,
+    };
     const pointer = { ...settings, pointerId: 1, pointerType: "mouse", isPrimary: true };
     target.dispatchEvent(new PointerEvent(`pointer${kind}`, pointer));
     target.dispatchEvent(new MouseEvent(`mouse${kind}`, { ...settings, button: 0 }));

@@ -11,11 +11,17 @@ const modules = join(root, "web/node_modules");
 const median = (values) => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
 const session = await startBrowser({
-    folders: { "/bench/": join(root, "bench/web"), "/konva/": join(modules, "konva"), "/annotorious/": join(modules, "@annotorious/annotorious/dist") },
+    folders: {
+        "/bench/": join(root, "bench/web"),
+        "/konva/": join(modules, "konva"),
+        "/annotorious/": join(modules, "@annotorious/annotorious/dist"),
+    },
     // Without them a step takes as long as the screen's next frame lets it wait.
     flags: ["--disable-frame-rate-limit", "--disable-gpu-vsync"],
 });
-const { page, complaints } = await openPage(session.browser, session.address, "bench/", { viewport: { width: 1920, height: 1080 } });
+const { page, complaints } = await openPage(session.browser, session.address, "bench/", {
+    viewport: { width: 1920, height: 1080 },
+});
 await page.waitForFunction("window.measure");
 await page.mouse.move(5, 5);
 const names = await page.evaluate("names");
@@ -33,7 +39,9 @@ for (let round = 0; round <= ROUNDS; ++round) {
 await session.end();
 
 const own = results[names[0]];
-console.log(`| milliseconds (ratio to RuleCanvas), median of ${ROUNDS} | load | press | drag step |\n|---|---|---|---|`);
+console.log(
+    `| milliseconds (ratio to RuleCanvas), median of ${ROUNDS} | load | press | drag step |\n|---|---|---|---|`,
+);
 for (const name of names) {
     const cells = MEASURES.map((measure) => {
         const value = median(results[name][measure]);

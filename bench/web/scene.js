@@ -16,11 +16,17 @@ function ring(x, y) {
     });
 }
 
-export const middles = Array.from({ length: COLUMNS * ROWS }, (_, i) => [24 + 48 * (i % COLUMNS), 22 + 43 * Math.floor(i / COLUMNS)]);
+export const middles = Array.from({ length: COLUMNS * ROWS }, (_, i) => [
+    24 + 48 * (i % COLUMNS),
+    22 + 43 * Math.floor(i / COLUMNS),
+]);
 export const polygons = middles.map(([x, y]) => ring(x, y));
 
 /** Where the pointer goes during a drag of so many steps: to and fro. */
 export function pathOf(steps) {
     const [x, y] = middles[DRAGGED];
-    return Array.from({ length: steps }, (_, i) => [Math.round(x + 60 * Math.sin((i + 1) / 6)), Math.round(y + 40 * Math.sin((i + 1) / 9))]);
+    return Array.from({ length: steps }, (_, i) => [
+        Math.round(x + 60 * Math.sin((i + 1) / 6)),
+        Math.round(y + 40 * Math.sin((i + 1) / 9)),
+    ]);
 }

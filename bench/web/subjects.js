@@ -22,7 +22,11 @@ const rulecanvas = {
     async prepare() {
         const canvas = await RuleCanvas.over(await picture(emptyPlace()));
         const size = { width: WIDTH, height: HEIGHT };
-        const rules = polygons.map((points, i) => ({ type: "Polygon", name: `p${i}`, configuration: configurationOf("Polygon", `p${i}`, points, size) }));
+        const rules = polygons.map((points, i) => ({
+            type: "Polygon",
+            name: `p${i}`,
+            configuration: configurationOf("Polygon", `p${i}`, points, size),
+        }));
         const text = JSON.stringify({ format: "rulecanvas-rules", version: 1, rules });
         return {
             load: () => canvas.load(text),
@@ -48,7 +52,18 @@ function konva(dragLayer) {
                 anchors.destroyChildren();
                 const points = line.points();
                 for (let i = 0; i < points.length; i += 2) {
-                    anchors.add(new Konva.Rect({ x: points[i] - 3, y: points[i + 1] - 3, width: 6, height: 6, stroke: "yellow", strokeWidth: 2, fill: "white", listening: false }));
+                    anchors.add(
+                        new Konva.Rect({
+                            x: points[i] - 3,
+                            y: points[i + 1] - 3,
+                            width: 6,
+                            height: 6,
+                            stroke: "yellow",
+                            strokeWidth: 2,
+                            fill: "white",
+                            listening: false,
+                        }),
+                    );
                 }
                 anchors.position(line.position());
                 line.stroke("yellow");
@@ -61,7 +76,14 @@ function konva(dragLayer) {
             return {
                 load: () => {
                     for (const points of JSON.parse(text)) {
-                        const line = new Konva.Line({ points: points.flat(), closed: true, stroke: "red", strokeWidth: 2, draggable: true, fill: "transparent" });
+                        const line = new Konva.Line({
+                            points: points.flat(),
+                            closed: true,
+                            stroke: "red",
+                            strokeWidth: 2,
+                            draggable: true,
+                            fill: "transparent",
+                        });
                         line.on("mousedown touchstart", () => select(line));
                         line.on("dragmove", () => anchors.position(line.position()));
                         layer.add(line);
@@ -69,7 +91,10 @@ function konva(dragLayer) {
                     }
                 },
                 count: () => lines.length,
-                placeOf: (index) => [lines[index].points()[0] + lines[index].x(), lines[index].points()[1] + lines[index].y()],
+                placeOf: (index) => [
+                    lines[index].points()[0] + lines[index].x(),
+                    lines[index].points()[1] + lines[index].y(),
+                ],
                 end: () => stage.destroy(),
             };
         },
@@ -82,8 +107,17 @@ const annotorious = {
         const annotator = window.Annotorious.createImageAnnotator(image);
         const annotations = polygons.map((points, i) => {
             const [xs, ys] = [points.map((point) => point[0]), points.map((point) => point[1])];
-            const bounds = { minX: Math.min(...xs), minY: Math.min(...ys), maxX: Math.max(...xs), maxY: Math.max(...ys) };
-            return { id: `p${i}`, bodies: [], target: { annotation: `p${i}`, selector: { type: "POLYGON", geometry: { bounds, points } } } };
+            const bounds = {
+                minX: Math.min(...xs),
+                minY: Math.min(...ys),
+                maxX: Math.max(...xs),
+                maxY: Math.max(...ys),
+            };
+            return {
+                id: `p${i}`,
+                bodies: [],
+                target: { annotation: `p${i}`, selector: { type: "POLYGON", geometry: { bounds, points } } },
+            };
         });
         const text = JSON.stringify(annotations);
         return {

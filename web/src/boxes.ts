@@ -12,7 +12,12 @@ export function overlap(a: Sides, b: Sides): boolean {
 
 /** The smallest rectangle round both. */
 export function around(a: Sides, b: Sides): Sides {
-    return { left: Math.min(a.left, b.left), top: Math.min(a.top, b.top), right: Math.max(a.right, b.right), bottom: Math.max(a.bottom, b.bottom) };
+    return {
+        left: Math.min(a.left, b.left),
+        top: Math.min(a.top, b.top),
+        right: Math.max(a.right, b.right),
+        bottom: Math.max(a.bottom, b.bottom),
+    };
 }
 
 const MOST_PARTS = 6;

@@ -6,7 +6,15 @@ import { RuleCanvasError } from "./errors.js";
 export interface Library {
     CreateVideoAnalyseContainer(hostObject: number): number;
     ReleaseVideoAnalyseContainer(container: number): void;
-    CreateMainVideoAnalyseShape(container: number, view: number, label: number, type: number, name: number, configuration: number, option: number): number;
+    CreateMainVideoAnalyseShape(
+        container: number,
+        view: number,
+        label: number,
+        type: number,
+        name: number,
+        configuration: number,
+        option: number,
+    ): number;
     GetContainerWinMouseEventHandler(container: number, holder: number): number;
     GetContainerDrawEventHandler(container: number, holder: number): number;
     SetContainerNotifyEventDelegate(container: number, delegate: number): void;
@@ -29,7 +37,14 @@ export interface Library {
     SetVideoAnalyseContainerTip(container: number, view: number, tip: number): number;
     InvalidateAllShape(container: number): number;
     SetAdjustBoxbShow(container: number, shape: number, show: number): number;
-    SetVideoAnalyseShapeColor(container: number, shape: number, red: number, green: number, blue: number, selectedColour: number): number;
+    SetVideoAnalyseShapeColor(
+        container: number,
+        shape: number,
+        red: number,
+        green: number,
+        blue: number,
+        selectedColour: number,
+    ): number;
     SetVideoAnalyseShapeMaxPtNum(container: number, shape: number, maximum: number, minimum: number): number;
     SetPixelCount(container: number, width: number, height: number): void;
     GetVideoAnalyseAllShapestates(buffer: number, size: number): void;

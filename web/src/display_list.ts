@@ -39,11 +39,23 @@ class Extent implements RecordingReader, Sides {
     }
 
     rectangle(left: number, top: number, right: number, bottom: number): void {
-        this.set(left, top, right, bottom, isHandle(left, top, right, bottom, this.width) ? HANDLE_MARGIN : this.strokeMargin());
+        this.set(
+            left,
+            top,
+            right,
+            bottom,
+            isHandle(left, top, right, bottom, this.width) ? HANDLE_MARGIN : this.strokeMargin(),
+        );
     }
 
     ellipse(left: number, top: number, right: number, bottom: number): void {
-        this.set(Math.min(left, right), Math.min(top, bottom), Math.max(left, right), Math.max(top, bottom), this.strokeMargin());
+        this.set(
+            Math.min(left, right),
+            Math.min(top, bottom),
+            Math.max(left, right),
+            Math.max(top, bottom),
+            this.strokeMargin(),
+        );
     }
 
     fillEllipse(left: number, top: number, right: number, bottom: number): void {
@@ -96,7 +108,7 @@ export class DisplayList {
         this.words = recording.words.slice(recording.begin, recording.end);
         this.numbers = new Float32Array(this.words.buffer);
         const extent = new Extent(places);
-        for (let begin = 0; begin < this.words.length; ) {
+        for (let begin = 0; begin < this.words.length;) {
             const end = readCommand(this.words, this.numbers, begin, extent);
             if (this.words[begin] !== PEN) {
                 const { left, top, right, bottom, width, colour, patterned } = extent;
@@ -148,7 +160,12 @@ export class DisplayList {
 
     private same(item: Item, before: DisplayList, old: Item): boolean {
         const length = item.end - item.begin;
-        if (length !== old.end - old.begin || item.colour !== old.colour || item.width !== old.width || item.patterned !== old.patterned) {
+        if (
+            length !== old.end - old.begin ||
+            item.colour !== old.colour ||
+            item.width !== old.width ||
+            item.patterned !== old.patterned
+        ) {
             return false;
         }
         for (let i = 0; i < length; ++i) {

@@ -33,7 +33,11 @@ export class TypedEvents extends EventTarget {
         listener: (event: CustomEvent<RuleCanvasEvents[K]>) => void,
         options?: boolean | AddEventListenerOptions,
     ): void;
-    override addEventListener(type: string, listener: EventListenerOrEventListenerObject, options?: boolean | AddEventListenerOptions): void;
+    override addEventListener(
+        type: string,
+        listener: EventListenerOrEventListenerObject,
+        options?: boolean | AddEventListenerOptions,
+    ): void;
     override addEventListener(type: string, listener: unknown, options?: boolean | AddEventListenerOptions): void {
         super.addEventListener(type, listener as EventListener, options);
     }

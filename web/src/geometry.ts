@@ -61,19 +61,37 @@ function gridPoints(type: RuleType, name: string, configuration: Configuration):
 
 /** The points of a geometry in pixels of a picture. */
 export function pointsOf(type: RuleType, name: string, configuration: Configuration, size: Size): Point[] {
-    return gridPoints(type, name, configuration).map(([x, y]): Point => [fromGrid(x, size.width), fromGrid(y, size.height)]);
+    return gridPoints(type, name, configuration).map(([x, y]): Point => [
+        fromGrid(x, size.width),
+        fromGrid(y, size.height),
+    ]);
 }
 
 /** The same geometry moved by whole pixels of the view, as far as the picture reaches. */
-export function movedBy(type: RuleType, name: string, configuration: Configuration, size: Size, dx: number, dy: number): Configuration {
+export function movedBy(
+    type: RuleType,
+    name: string,
+    configuration: Configuration,
+    size: Size,
+    dx: number,
+    dy: number,
+): Configuration {
     const points = pointsOf(type, name, configuration, size);
     if (points.length === 0) {
         return configuration;
     }
     const inside = (wanted: number, values: number[], limit: number): number =>
         Math.min(Math.max(wanted, -Math.min(...values)), limit - Math.max(...values));
-    const x = inside(dx, points.map((point) => point[0]), size.width - 1);
-    const y = inside(dy, points.map((point) => point[1]), size.height - 1);
+    const x = inside(
+        dx,
+        points.map((point) => point[0]),
+        size.width - 1,
+    );
+    const y = inside(
+        dy,
+        points.map((point) => point[1]),
+        size.height - 1,
+    );
     const moved = points.map(([px, py]): Point => [px + x, py + y]);
     return { ...configuration, ...configurationOf(type, name, moved, size) };
 }

@@ -94,11 +94,19 @@ export class Gestures implements InputSink {
     nudge(dx: number, dy: number): boolean {
         const rule = this.model.selection()[0];
         const configuration = rule && this.model.configurationOf(rule);
-        if (!this.editable || !configuration || rule.locked || rule.state !== "complete" || rule.type === "PixelCountShape") {
+        if (
+            !this.editable ||
+            !configuration ||
+            rule.locked ||
+            rule.state !== "complete" ||
+            rule.type === "PixelCountShape"
+        ) {
             return false;
         }
         this.events.whole(() => {
-            this.model.replace(rule, { configuration: movedBy(rule.type, rule.name, configuration, this.board.size, dx, dy) });
+            this.model.replace(rule, {
+                configuration: movedBy(rule.type, rule.name, configuration, this.board.size, dx, dy),
+            });
             this.events.emit("change", { rule });
         });
         return true;
@@ -106,14 +114,26 @@ export class Gestures implements InputSink {
 
     /** Fingers do not hit thin lines. Inside an area they mean the area. */
     private lineNear(at: Point): Point | null {
-        return this.model.rules.some((rule) => this.spans(rule, at)) ? null : nearestLine(this.board.host.recording(), at, FINGER_REACH);
+        return this.model.rules.some((rule) => this.spans(rule, at))
+            ? null
+            : nearestLine(this.board.host.recording(), at, FINGER_REACH);
     }
 
     private spans(rule: Rule, [x, y]: Point): boolean {
         const configuration = AREAS.has(rule.type) && rule.visible ? this.model.configurationOf(rule) : null;
         const points = configuration === null ? [] : pointsOf(rule.type, rule.name, configuration, this.board.size);
-        const isBetween = (value: number, values: number[]): boolean => Math.min(...values) < value && value < Math.max(...values);
-        return isBetween(x, points.map((point) => point[0])) && isBetween(y, points.map((point) => point[1]));
+        const isBetween = (value: number, values: number[]): boolean =>
+            Math.min(...values) < value && value < Math.max(...values);
+        return (
+            isBetween(
+                x,
+                points.map((point) => point[0]),
+            ) &&
+            isBetween(
+                y,
+                points.map((point) => point[1]),
+            )
+        );
     }
 
     private variablePolygons(): { rule: Rule; text: string }[] {
@@ -150,7 +170,8 @@ export class Gestures implements InputSink {
     }
 
     private showCursor(): void {
-        const overHandle = (): boolean => nearestHandle(this.board.host.recording(), this.pointer, CURSOR_REACH) !== null;
+        const overHandle = (): boolean =>
+            nearestHandle(this.board.host.recording(), this.pointer, CURSOR_REACH) !== null;
         this.board.canvas.style.cursor = this.model.drawn !== null ? "crosshair" : overHandle() ? "grab" : "default";
     }
 }

@@ -39,7 +39,10 @@ function toEdit(rule: Rule, pointing: Pointing): string {
     if (rule.locked) {
         return "This rule is locked.";
     }
-    const parts = rule.facts.drawing === "marks" ? ["Drag a mark to move it"] : ["Drag the rule to move it, or a handle to reshape it"];
+    const parts =
+        rule.facts.drawing === "marks"
+            ? ["Drag a mark to move it"]
+            : ["Drag the rule to move it, or a handle to reshape it"];
     if (rule.type === "VirablePolygon") {
         parts.push(`${pointing === "touch" ? "hold" : "right-click"} an edge to put a point there`);
     }

@@ -10,7 +10,11 @@ export class History {
     private readonly endings: (() => void)[];
 
     /** Calls `changed` whenever `canUndo` or `canRedo` may differ. `most` steps are kept. */
-    constructor(private readonly canvas: RuleCanvas, private readonly changed: () => void = () => {}, private readonly most = 100) {
+    constructor(
+        private readonly canvas: RuleCanvas,
+        private readonly changed: () => void = () => {},
+        private readonly most = 100,
+    ) {
         this.present = canvas.snapshot();
         const note = (): void => this.note();
         this.endings = (["create", "change", "delete", "rules"] as const).map((event) => canvas.on(event, note));

@@ -49,7 +49,10 @@ export class Host {
     private readonly number = ++hosts;
     private readonly host: number;
 
-    constructor(readonly core: CoreModule, listener: HostListener) {
+    constructor(
+        readonly core: CoreModule,
+        listener: HostListener,
+    ) {
         core.page ??= pageOf(core);
         listeners.set(this.number, listener);
         this.host = core._HostCreate(this.number);

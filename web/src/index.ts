@@ -3,7 +3,14 @@ export { RuleCanvas, type RuleCanvasOptions, type Snapshot } from "./rule_canvas
 export { Rule } from "./rule.js";
 export type { AddOptions } from "./options.js";
 export { hexOf, type Colour, type RuleStyle } from "./style.js";
-export { RULE_TYPES, type DirectionChoice, type Drawing, type RuleState, type RuleType, type RuleTypeFacts } from "./rule_types.js";
+export {
+    RULE_TYPES,
+    type DirectionChoice,
+    type Drawing,
+    type RuleState,
+    type RuleType,
+    type RuleTypeFacts,
+} from "./rule_types.js";
 export type { RuleCanvasEvents } from "./events.js";
 export { RuleCanvasError, type ErrorReason, type RefusedRule } from "./errors.js";
 export { History } from "./history.js";

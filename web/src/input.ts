@@ -23,7 +23,12 @@ const LONG_PRESS = 500;
 const TOUCH_SLOP = 8;
 const SMALL_STEP = 1;
 const LARGE_STEP = 10;
-const ARROWS: { readonly [key: string]: Point } = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1] };
+const ARROWS: { readonly [key: string]: Point } = {
+    ArrowLeft: [-1, 0],
+    ArrowRight: [1, 0],
+    ArrowUp: [0, -1],
+    ArrowDown: [0, 1],
+};
 
 /** A finger that is down. What it means is open until it moves, leaves or has stayed long enough. */
 interface Finger {
@@ -48,8 +53,10 @@ export class Input {
         private readonly pointsWith: (pointing: Pointing) => void,
     ) {
         const { signal } = this.listeners;
-        const on = <K extends keyof HTMLElementEventMap>(name: K, handler: (event: HTMLElementEventMap[K]) => void): void =>
-            canvas.addEventListener(name, handler, { signal });
+        const on = <K extends keyof HTMLElementEventMap>(
+            name: K,
+            handler: (event: HTMLElementEventMap[K]) => void,
+        ): void => canvas.addEventListener(name, handler, { signal });
         on("pointerdown", (event) => this.down(event));
         on("pointermove", (event) => this.move(event));
         on("pointerup", (event) => this.up(event));

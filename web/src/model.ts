@@ -29,7 +29,11 @@ export class Model implements RuleOwner {
     /** While the program makes rules, they say what no user did. */
     private making = false;
 
-    constructor(private readonly board: Board, private readonly events: TypedEvents, private readonly view: number) {
+    constructor(
+        private readonly board: Board,
+        private readonly events: TypedEvents,
+        private readonly view: number,
+    ) {
         this.set = new RuleSet(board.host, this, view);
     }
 
@@ -151,7 +155,8 @@ export class Model implements RuleOwner {
     }
 
     private takeSelection(shapes: Set<number>): void {
-        const same = shapes.size === this.selectedShapes.size && [...shapes].every((shape) => this.selectedShapes.has(shape));
+        const same =
+            shapes.size === this.selectedShapes.size && [...shapes].every((shape) => this.selectedShapes.has(shape));
         this.selectionMayDiffer = false;
         this.selectedShapes = shapes;
         if (!same) {
@@ -203,7 +208,11 @@ export class Model implements RuleOwner {
     }
 
     /** Puts rules in the place of all from `from` on; those that stay the same objects stay selected. */
-    remake(from: number, wanted: readonly { rule?: Rule | undefined; record: RuleRecord }[], boxes: ReadonlyMap<string, Box>): void {
+    remake(
+        from: number,
+        wanted: readonly { rule?: Rule | undefined; record: RuleRecord }[],
+        boxes: ReadonlyMap<string, Box>,
+    ): void {
         this.change(() => {
             const selected = new Set(this.selection());
             this.set.replaceFrom(from, wanted);
@@ -285,7 +294,10 @@ export class Model implements RuleOwner {
     require(wanted: Rule | string): Rule {
         const rule = typeof wanted === "string" ? this.set.find(wanted) : wanted;
         if (rule === undefined || !this.set.has(rule)) {
-            throw new RuleCanvasError("unknown-rule", `There is no rule "${typeof wanted === "string" ? wanted : wanted.name}" on this canvas`);
+            throw new RuleCanvasError(
+                "unknown-rule",
+                `There is no rule "${typeof wanted === "string" ? wanted : wanted.name}" on this canvas`,
+            );
         }
         return rule;
     }

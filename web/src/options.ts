@@ -43,8 +43,24 @@ export interface AddOptions {
 }
 
 const KNOWN = new Set([
-    "type", "name", "label", "caption", "points", "configuration", "mode", "count", "style", "option", "colours",
-    "direction", "pointLimits", "enabled", "visible", "locked", "view", "selected",
+    "type",
+    "name",
+    "label",
+    "caption",
+    "points",
+    "configuration",
+    "mode",
+    "count",
+    "style",
+    "option",
+    "colours",
+    "direction",
+    "pointLimits",
+    "enabled",
+    "visible",
+    "locked",
+    "view",
+    "selected",
 ]);
 
 function refuse(reason: "wrong-option" | "wrong-value", message: string): never {
@@ -114,7 +130,8 @@ function geometryOf(options: AddOptions, facts: RuleTypeFacts, name: string, pic
     if (options.configuration !== undefined) {
         refuse("wrong-option", "The geometry is given by points or by a configuration, not by both");
     }
-    const isPoint = (point: unknown): boolean => Array.isArray(point) && point.length === 2 && point.every(Number.isFinite);
+    const isPoint = (point: unknown): boolean =>
+        Array.isArray(point) && point.length === 2 && point.every(Number.isFinite);
     const [least, most] = facts.points;
     if (!Array.isArray(options.points) || !options.points.every(isPoint)) {
         refuse("wrong-value", `points takes a list of [x, y], not ${JSON.stringify(options.points)}`);
@@ -137,9 +154,17 @@ export function recordOf(options: AddOptions, freeName: (type: RuleType) => stri
     const record: RuleRecord = { type: facts.type, name };
     const geometry = geometryOf(options, facts, name, picture);
     const members: Partial<RuleRecord> = {
-        label: options.label, caption: options.caption, option: optionOf(options, facts), configuration: geometry,
-        colours: options.colours && coloursOf(options.colours), direction: options.direction, pointLimits: options.pointLimits,
-        enabled: options.enabled, visible: options.visible, locked: options.locked, view: options.view,
+        label: options.label,
+        caption: options.caption,
+        option: optionOf(options, facts),
+        configuration: geometry,
+        colours: options.colours && coloursOf(options.colours),
+        direction: options.direction,
+        pointLimits: options.pointLimits,
+        enabled: options.enabled,
+        visible: options.visible,
+        locked: options.locked,
+        view: options.view,
     };
     for (const [key, value] of Object.entries(members)) {
         if (value !== undefined) {
@@ -161,7 +186,8 @@ export function checkRecord(record: RuleRecord): void {
     for (const key of ["name", "label", "caption"] as const) {
         checkText(record[key], key);
     }
-    const wrong = (key: string, wanted: string): never => refuse("wrong-value", `${key} takes ${wanted}, not ${JSON.stringify(record[key])}`);
+    const wrong = (key: string, wanted: string): never =>
+        refuse("wrong-value", `${key} takes ${wanted}, not ${JSON.stringify(record[key])}`);
     if (record.name === undefined || record.name === "") {
         wrong("name", "a text that is not empty");
     }
@@ -175,7 +201,10 @@ export function checkRecord(record: RuleRecord): void {
     if (direction !== undefined && !isWhole(direction, -1, 5)) {
         wrong("direction", "a whole number from -1 to 5");
     }
-    if (limits !== undefined && !(isObject(limits) && isWhole(limits.maximum, 1, 10000) && isWhole(limits.minimum, -1, 10000))) {
+    if (
+        limits !== undefined &&
+        !(isObject(limits) && isWhole(limits.maximum, 1, 10000) && isWhole(limits.minimum, -1, 10000))
+    ) {
         wrong("pointLimits", "a maximum and a minimum");
     }
     if (view !== undefined && !isWhole(view, 0, 0xffffffff)) {

@@ -20,7 +20,12 @@ export function isHandle(left: number, top: number, right: number, bottom: numbe
 
 /** The same rectangle in whole canvas pixels, so that its border cuts none. */
 function wholePixels({ left, top, right, bottom }: Sides, ratioX: number, ratioY: number): Sides {
-    return { left: Math.floor(left * ratioX), top: Math.floor(top * ratioY), right: Math.ceil(right * ratioX), bottom: Math.ceil(bottom * ratioY) };
+    return {
+        left: Math.floor(left * ratioX),
+        top: Math.floor(top * ratioY),
+        right: Math.ceil(right * ratioX),
+        bottom: Math.ceil(bottom * ratioY),
+    };
 }
 
 /** Draws a recording on a 2D canvas. Strokes of one pen are gathered into one path. */
@@ -31,7 +36,11 @@ export class Painter implements RecordingReader {
     private gathered = 0;
     private handleScale = 1;
 
-    constructor(private readonly context: CanvasRenderingContext2D, private readonly texts: TextPen, private readonly places: TextPlaces) {}
+    constructor(
+        private readonly context: CanvasRenderingContext2D,
+        private readonly texts: TextPen,
+        private readonly places: TextPlaces,
+    ) {}
 
     /** Draws a list: in the parts of the view that are given, or everywhere. `ratio` is canvas pixels for a pixel of the
      * view, handles are drawn `handleScale` times as large. */

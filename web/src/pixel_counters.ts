@@ -9,7 +9,10 @@ class BoxReader implements RecordingReader {
     private lastText = "";
     private isCounterPen = false;
 
-    constructor(private readonly width: number, private readonly height: number) {}
+    constructor(
+        private readonly width: number,
+        private readonly height: number,
+    ) {}
 
     pen(width: number, _colour: number, patterned: boolean): void {
         this.isCounterPen = patterned && width === 1;

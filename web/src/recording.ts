@@ -34,7 +34,8 @@ const utf8 = new TextDecoder();
 
 /** Hands the command at an index to a reader. Where the next one begins. */
 export function readCommand(w: Uint32Array, n: Float32Array, at: number, reader: RecordingReader): number {
-    const textAt = (text: number): string => utf8.decode(new Uint8Array(w.buffer, w.byteOffset + (text + 1) * 4, w[text]!));
+    const textAt = (text: number): string =>
+        utf8.decode(new Uint8Array(w.buffer, w.byteOffset + (text + 1) * 4, w[text]!));
     const afterText = (text: number): number => text + 1 + Math.ceil(w[text]! / 4);
     const i = at + 1;
     switch (w[at]) {
@@ -69,7 +70,7 @@ export function readCommand(w: Uint32Array, n: Float32Array, at: number, reader:
 
 /** Hands the commands of a recording to a reader, in order. */
 export function readRecording({ words, numbers, begin, end }: Recording, reader: RecordingReader): void {
-    for (let i = begin; i < end; ) {
+    for (let i = begin; i < end;) {
         i = readCommand(words, numbers, i, reader);
     }
 }

@@ -60,7 +60,12 @@ export class RuleCanvas extends TypedEvents {
         return new RuleCanvas(await loadCore(options.wasm), canvas, null, options);
     }
 
-    private constructor(core: CoreModule, canvas: HTMLCanvasElement, target: HTMLElement | null, options: RuleCanvasOptions) {
+    private constructor(
+        core: CoreModule,
+        canvas: HTMLCanvasElement,
+        target: HTMLElement | null,
+        options: RuleCanvasOptions,
+    ) {
         super();
         const view = options.view ?? 0;
         this.canvas = canvas;
@@ -87,7 +92,9 @@ export class RuleCanvas extends TypedEvents {
     /** The library's 29 functions for what this class does not offer, and the handle of this canvas's container. */
     get library(): { readonly functions: Library; readonly container: number; readonly core: CoreModule } {
         const { core, container } = this.board.host;
-        const functions = new Proxy({} as Library, { get: (_target, name) => core[`_${String(name)}` as keyof CoreModule] });
+        const functions = new Proxy({} as Library, {
+            get: (_target, name) => core[`_${String(name)}` as keyof CoreModule],
+        });
         return { functions, container, core };
     }
 
@@ -211,7 +218,11 @@ export class RuleCanvas extends TypedEvents {
         const file = readRulesFile(source);
         this.whole(() => {
             this.model.cancelDrawing();
-            this.model.remake(0, file.rules.map((record) => ({ record })), new Map());
+            this.model.remake(
+                0,
+                file.rules.map((record) => ({ record })),
+                new Map(),
+            );
             this.file = file;
         });
     }
@@ -241,7 +252,10 @@ export class RuleCanvas extends TypedEvents {
             const from = changed < 0 ? records.length : changed;
             const wanted = records.slice(from).map((record) => {
                 const rule = this.model.set.find(record.name);
-                return { record, rule: rule?.type === record.type && this.rules.indexOf(rule) >= from ? rule : undefined };
+                return {
+                    record,
+                    rule: rule?.type === record.type && this.rules.indexOf(rule) >= from ? rule : undefined,
+                };
             });
             this.model.remake(from, wanted, boxes);
         });

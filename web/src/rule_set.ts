@@ -13,7 +13,11 @@ export class RuleSet {
     private readonly byName = new Map<string, Rule>();
     private beingMade: Rule | null = null;
 
-    constructor(private readonly host: Host, private readonly owner: RuleOwner, private readonly view: number) {}
+    constructor(
+        private readonly host: Host,
+        private readonly owner: RuleOwner,
+        private readonly view: number,
+    ) {}
 
     get all(): readonly Rule[] {
         return this.rules;
@@ -154,5 +158,8 @@ export class RuleSet {
 
 function refusedConfiguration({ type, name, configuration }: RuleRecord): RuleCanvasError {
     const geometry: Configuration | null = configuration ?? null;
-    return new RuleCanvasError("configuration-refused", `${type} "${name}" does not accept the geometry ${JSON.stringify(geometry)}`);
+    return new RuleCanvasError(
+        "configuration-refused",
+        `${type} "${name}" does not accept the geometry ${JSON.stringify(geometry)}`,
+    );
 }

@@ -64,13 +64,22 @@ export function readRulesFile(source: string | object): RulesFile {
     const root = typeof source === "string" ? parsed(source) : structuredClone(source);
     const file = root as RulesFile;
     if (typeof root !== "object" || root === null || file.format !== FORMAT || !Array.isArray(file.rules)) {
-        throw new RuleCanvasError("not-a-rules-file", `This is not a rules file: "format" is not "${FORMAT}", or "rules" is no list`);
+        throw new RuleCanvasError(
+            "not-a-rules-file",
+            `This is not a rules file: "format" is not "${FORMAT}", or "rules" is no list`,
+        );
     }
     if (!Number.isInteger(file.version) || file.version < 1) {
-        throw new RuleCanvasError("not-a-rules-file", `The rules file has the impossible version ${JSON.stringify(file.version)}`);
+        throw new RuleCanvasError(
+            "not-a-rules-file",
+            `The rules file has the impossible version ${JSON.stringify(file.version)}`,
+        );
     }
     if (file.version > VERSION) {
-        throw new RuleCanvasError("newer-version", `The rules file has version ${file.version}; versions up to ${VERSION} can be read`);
+        throw new RuleCanvasError(
+            "newer-version",
+            `The rules file has version ${file.version}; versions up to ${VERSION} can be read`,
+        );
     }
     const names = new Set<string>();
     const refused: RefusedRule[] = [];

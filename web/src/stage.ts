@@ -6,7 +6,12 @@ export type Target = HTMLElement;
 /** The part of an element's content box that its picture fills, by `object-fit`: "contain" and "scale-down" leave
  * borders free, everything else fills the box. */
 function pictureBox(target: Target): { left: number; top: number; width: number; height: number } {
-    const box = { left: target.clientLeft, top: target.clientTop, width: target.clientWidth, height: target.clientHeight };
+    const box = {
+        left: target.clientLeft,
+        top: target.clientTop,
+        width: target.clientWidth,
+        height: target.clientHeight,
+    };
     const natural = naturalSize(target);
     const fit = getComputedStyle(target).objectFit;
     if (!natural || (fit !== "contain" && fit !== "scale-down")) {
@@ -52,7 +57,11 @@ export class Stage {
     private resolution: MediaQueryList | null = null;
     private readonly refresh = (): void => this.update();
 
-    constructor(readonly canvas: HTMLCanvasElement, readonly target: Target | null, private readonly changed: () => void) {
+    constructor(
+        readonly canvas: HTMLCanvasElement,
+        readonly target: Target | null,
+        private readonly changed: () => void,
+    ) {
         if (target === null) {
             keepLayoutSize(canvas);
         }
@@ -83,8 +92,14 @@ export class Stage {
     toView(clientX: number, clientY: number): Point {
         const { canvas } = this;
         const box = canvas.getBoundingClientRect();
-        const along = (client: number, begin: number, length: number, outer: number, border: number, inner: number): number =>
-            (((client - begin) / length) * outer - border) / inner;
+        const along = (
+            client: number,
+            begin: number,
+            length: number,
+            outer: number,
+            border: number,
+            inner: number,
+        ): number => (((client - begin) / length) * outer - border) / inner;
         const x = along(clientX, box.left, box.width, canvas.offsetWidth, canvas.clientLeft, canvas.clientWidth);
         const y = along(clientY, box.top, box.height, canvas.offsetHeight, canvas.clientTop, canvas.clientHeight);
         return [x * this.size.width, y * this.size.height];

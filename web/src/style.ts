@@ -28,10 +28,17 @@ export function rgbOf(colour: Colour, what: string): Rgb {
         const value = parseInt(colour.slice(1), 16);
         return [value >> 16, (value >> 8) & 255, value & 255];
     }
-    if (Array.isArray(colour) && colour.length === 3 && colour.every((part) => Number.isInteger(part) && part >= 0 && part <= 255)) {
+    if (
+        Array.isArray(colour) &&
+        colour.length === 3 &&
+        colour.every((part) => Number.isInteger(part) && part >= 0 && part <= 255)
+    ) {
         return [colour[0], colour[1], colour[2]];
     }
-    throw new RuleCanvasError("wrong-value", `${what} takes "#rrggbb" or three whole numbers from 0 to 255, not ${JSON.stringify(colour)}`);
+    throw new RuleCanvasError(
+        "wrong-value",
+        `${what} takes "#rrggbb" or three whole numbers from 0 to 255, not ${JSON.stringify(colour)}`,
+    );
 }
 
 /** "#rrggbb". */
@@ -41,7 +48,10 @@ export function hexOf([red, green, blue]: Rgb): string {
 
 function wholeNumber(value: unknown, what: string, least: number, most: number): number {
     if (typeof value !== "number" || !Number.isInteger(value) || value < least || value > most) {
-        throw new RuleCanvasError("wrong-value", `${what} takes a whole number from ${least} to ${most}, not ${JSON.stringify(value)}`);
+        throw new RuleCanvasError(
+            "wrong-value",
+            `${what} takes a whole number from ${least} to ${most}, not ${JSON.stringify(value)}`,
+        );
     }
     return value;
 }
@@ -69,7 +79,10 @@ export function styleToOption(style: RuleStyle): { [key: string]: unknown } {
     const option = {};
     for (const [key, value] of Object.entries(style)) {
         if (!(key in KEYS)) {
-            throw new RuleCanvasError("wrong-option", `A style has no "${key}"; it has ${Object.keys(KEYS).join(", ")}`);
+            throw new RuleCanvasError(
+                "wrong-option",
+                `A style has no "${key}"; it has ${Object.keys(KEYS).join(", ")}`,
+            );
         }
         if (value !== undefined) {
             Object.assign(option, KEYS[key as keyof RuleStyle](value));

@@ -14,7 +14,11 @@ class Search implements RecordingReader {
     private best: number;
     private penWidth = 0;
 
-    constructor(private readonly at: Point, reach: number, private readonly wanted: "handles" | "lines") {
+    constructor(
+        private readonly at: Point,
+        reach: number,
+        private readonly wanted: "handles" | "lines",
+    ) {
         this.best = reach * reach;
     }
 

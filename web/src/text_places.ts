@@ -20,7 +20,10 @@ function inside(value: number, low: number, high: number): number {
 export class TextPlaces {
     view: Size = { width: 0, height: 0 };
 
-    constructor(private readonly context: CanvasRenderingContext2D, private readonly pen: TextPen) {}
+    constructor(
+        private readonly context: CanvasRenderingContext2D,
+        private readonly pen: TextPen,
+    ) {}
 
     /** A text that would leave the picture is moved into it. */
     text(x: number, y: number, size: number, text: string): Placed {

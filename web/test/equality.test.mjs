@@ -36,7 +36,9 @@ function playProgram([command, ...words]) {
         case "add": {
             const [type, name, option, configuration] = words;
             canvas.add({
-                type, name, label: "rule",
+                type,
+                name,
+                label: "rule",
                 ...(option !== "-" && { option: option.startsWith("{") ? JSON.parse(option) : option }),
                 ...(configuration && { configuration: JSON.parse(configuration), selected: true }),
             });
@@ -105,7 +107,10 @@ test("gestures on the module and on the native library say and write the same", 
     const { lines, complaints } = await playInBrowser(session);
     const at = native.findIndex((line, index) => line !== lines[index]);
     if (at >= 0 || native.length !== lines.length) {
-        const before = native.slice(0, Math.max(at, 0)).reverse().find((line) => line.startsWith("case "));
+        const before = native
+            .slice(0, Math.max(at, 0))
+            .reverse()
+            .find((line) => line.startsWith("case "));
         throw new Error(`in "${before}", line ${at + 1} of ${native.length}: ${lines[at]} instead of ${native[at]}`);
     }
     if (native.length < LEAST_LINES || complaints.length > 0) {

@@ -8,8 +8,14 @@ export const root = resolve(dirname(fileURLToPath(import.meta.url)), "../..");
 export const built = join(root, "build/web");
 
 const FLAGS = [
-    "--no-sandbox", "--disable-gpu", "--disable-quic", "--no-first-run", "--disable-background-networking",
-    "--disable-component-update", "--disable-sync", "--autoplay-policy=no-user-gesture-required",
+    "--no-sandbox",
+    "--disable-gpu",
+    "--disable-quic",
+    "--no-first-run",
+    "--disable-background-networking",
+    "--disable-component-update",
+    "--disable-sync",
+    "--autoplay-policy=no-user-gesture-required",
 ];
 
 /** The tests in the order in which their files add them. */
@@ -21,7 +27,10 @@ export function test(name, run) {
 
 /** `folders` are served beside the page's; `flags` are for the browser. */
 export async function startBrowser({ folders = {}, flags = [] } = {}) {
-    const browser = await chromium.launch({ executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium", args: [...FLAGS, ...flags] });
+    const browser = await chromium.launch({
+        executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
+        args: [...FLAGS, ...flags],
+    });
     const { server, address } = await serve({ "/": join(built, "site"), "/test/": join(root, "web/test"), ...folders });
     const end = async () => {
         await browser.close();

@@ -212,8 +212,9 @@ class Player {
 
     void Remove(ShapeID shape) {
         container.DeleteShape(shape);
-        rules.erase(std::remove_if(rules.begin(), rules.end(), [shape](const Rule& rule) { return rule.shape == shape; }),
-                    rules.end());
+        rules.erase(
+            std::remove_if(rules.begin(), rules.end(), [shape](const Rule& rule) { return rule.shape == shape; }),
+            rules.end());
     }
 
     Rule& RuleNamed(const std::string& name) {

@@ -21,9 +21,14 @@ const picture = (page, name) => page.screenshot({ path: join(pictures, `${name}.
 test("the page draws a rule of every type and lists it", async (session) => {
     const { page, complaints, at, close } = await openTool(session);
     for (let i = await rules(page).count(); i > 0; --i) {
-        await rules(page).first().getByRole("button", { name: /^Delete/ }).click();
+        await rules(page)
+            .first()
+            .getByRole("button", { name: /^Delete/ })
+            .click();
     }
-    const types = await page.locator("#tools [data-type]").evaluateAll((buttons) => buttons.map((button) => button.dataset.type));
+    const types = await page
+        .locator("#tools [data-type]")
+        .evaluateAll((buttons) => buttons.map((button) => button.dataset.type));
     equal(types.length, 15, "tools");
     for (const [index, type] of types.entries()) {
         const [x, y] = [0.06 + 0.19 * (index % 5), 0.1 + 0.3 * Math.floor(index / 5)];
@@ -31,7 +36,11 @@ test("the page draws a rule of every type and lists it", async (session) => {
         isTrue((await help(page)).length > 10 && !(await help(page)).startsWith("Choose"), `the help line for ${type}`);
         const drawing = await page.evaluate("ruleCanvas.drawing.facts.drawing");
         if (drawing === "path") {
-            for (const [dx, dy] of [[0, 0], [0.12, 0.02], [0.1, 0.2]]) {
+            for (const [dx, dy] of [
+                [0, 0],
+                [0.12, 0.02],
+                [0.1, 0.2],
+            ]) {
                 await page.mouse.click(...at(x + dx, y + dy));
             }
             await page.mouse.click(...at(x + 0.02, y + 0.15), { button: "right" });
@@ -93,7 +102,11 @@ test("the properties of a rule", async (session) => {
     await page.getByLabel("Colour while not selected").fill("#ff00ff");
     await page.getByLabel("Behaviour").selectOption("Stays convex");
     const record = await page.evaluate("ruleCanvas.rule('crossing').record");
-    equal([record.caption, record.direction, record.colours.unselected, record.option], ["Zebra", 0, [255, 0, 255], "Convex"], "the rule");
+    equal(
+        [record.caption, record.direction, record.colours.unselected, record.option],
+        ["Zebra", 0, [255, 0, 255], "Convex"],
+        "the rule",
+    );
     await page.getByLabel("Name").fill("oncoming");
     await page.getByLabel("Name").press("Enter");
     await page.locator(".toast").waitFor();
@@ -105,10 +118,19 @@ test("the properties of a rule", async (session) => {
 });
 
 test("the page on a phone", async (session) => {
-    const { page, complaints, at, close } = await openTool(session, { viewport: { width: 390, height: 844 }, deviceScaleFactor: 3, hasTouch: true, isMobile: true });
+    const { page, complaints, at, close } = await openTool(session, {
+        viewport: { width: 390, height: 844 },
+        deviceScaleFactor: 3,
+        hasTouch: true,
+        isMobile: true,
+    });
     equal(await page.evaluate("document.documentElement.scrollWidth"), 390, "the width that the page takes");
     await page.locator('[data-type="Polygon"]').tap();
-    for (const [x, y] of [[0.1, 0.2], [0.4, 0.15], [0.3, 0.5]]) {
+    for (const [x, y] of [
+        [0.1, 0.2],
+        [0.4, 0.15],
+        [0.3, 0.5],
+    ]) {
         await page.touchscreen.tap(...at(x, y));
     }
     isTrue((await help(page)).includes("hold the finger still"), "the help line for fingers");

@@ -1,7 +1,17 @@
 // Wrong calls and wrong files are refused with a reason, and change nothing.
 import { equal, isTrue, openPage, test } from "./harness.mjs";
 
-const rule = (name, more = {}) => ({ type: "Rect", name, configuration: { [name]: [[100, 100], [900, 900]] }, ...more });
+const rule = (name, more = {}) => ({
+    type: "Rect",
+    name,
+    configuration: {
+        [name]: [
+            [100, 100],
+            [900, 900],
+        ],
+    },
+    ...more,
+});
 const file = (rules, more = {}) => ({ format: "rulecanvas-rules", version: 1, rules, ...more });
 
 const WRONG_ADDS = [
@@ -21,10 +31,48 @@ const WRONG_ADDS = [
     [{ type: "Rect", name: "" }, "wrong-value", "name"],
     [{ type: "Rect", name: "there" }, "duplicate-name", "there"],
     [{ type: "Rect", points: [[1, 2]] }, "wrong-value", "2 points"],
-    [{ type: "Rect", points: [[1, 2], [3, Number.NaN]] }, "wrong-value", "points"],
-    [{ type: "Rect", points: [[1, 2], [300, 400]], configuration: {} }, "wrong-option", "both"],
-    [{ type: "Rect", name: "a", configuration: { b: [[1, 1], [500, 500]] } }, "configuration-refused", "geometry"],
-    [{ type: "Polygon", name: "p", configuration: { p: Array.from({ length: 21 }, (_, i) => [i, i * i]) } }, "configuration-refused", "geometry"],
+    [
+        {
+            type: "Rect",
+            points: [
+                [1, 2],
+                [3, Number.NaN],
+            ],
+        },
+        "wrong-value",
+        "points",
+    ],
+    [
+        {
+            type: "Rect",
+            points: [
+                [1, 2],
+                [300, 400],
+            ],
+            configuration: {},
+        },
+        "wrong-option",
+        "both",
+    ],
+    [
+        {
+            type: "Rect",
+            name: "a",
+            configuration: {
+                b: [
+                    [1, 1],
+                    [500, 500],
+                ],
+            },
+        },
+        "configuration-refused",
+        "geometry",
+    ],
+    [
+        { type: "Polygon", name: "p", configuration: { p: Array.from({ length: 21 }, (_, i) => [i, i * i]) } },
+        "configuration-refused",
+        "geometry",
+    ],
     [{ type: "Rect", visible: "yes" }, "wrong-value", "visible"],
 ];
 
@@ -33,7 +81,11 @@ const WRONG_FILES = [
     ["[]", "not-a-rules-file", "format"],
     [{ format: "other", version: 1, rules: [] }, "not-a-rules-file", "format"],
     [file([], { version: 2 }), "newer-version", "version 2"],
-    [file([rule("a"), rule("a"), rule("b", { type: "Nothing" }), rule("c", { configuration: { d: 1 } })]), "rules-refused", 'rule 2 "a"'],
+    [
+        file([rule("a"), rule("a"), rule("b", { type: "Nothing" }), rule("c", { configuration: { d: 1 } })]),
+        "rules-refused",
+        'rule 2 "a"',
+    ],
     [file([rule("ok"), rule("c", { configuration: { d: [] } })]), "rules-refused", 'rule 2 "c"'],
 ];
 
@@ -43,7 +95,12 @@ async function refused(page, call, argument) {
             try {
                 window.canvas[call](argument);
             } catch (problem) {
-                return { own: problem instanceof window.rulecanvas.RuleCanvasError, reason: problem.reason, message: problem.message, refused: problem.refused };
+                return {
+                    own: problem instanceof window.rulecanvas.RuleCanvasError,
+                    reason: problem.reason,
+                    message: problem.message,
+                    refused: problem.refused,
+                };
             }
             return null;
         },
@@ -81,7 +138,14 @@ test("wrong rules files are refused whole", (session) =>
             isTrue(answer.message.includes(word), `"${answer.message}" names ${word}`);
         }
         const { refused: named } = await refused(page, "load", WRONG_FILES[4][0]);
-        equal(named.map(({ index, reason }) => [index, reason]), [[1, "duplicate-name"], [2, "unknown-type"]], "the refused rules");
+        equal(
+            named.map(({ index, reason }) => [index, reason]),
+            [
+                [1, "duplicate-name"],
+                [2, "unknown-type"],
+            ],
+            "the refused rules",
+        );
     }));
 
 test("a rules file keeps what this version does not know, in place", async ({ browser, address }) => {
@@ -94,9 +158,39 @@ test("a rules file keeps what this version does not know, in place", async ({ br
         version: 1,
         picture: { width: 800, height: 600 },
         rules: [
-            { note: "first", type: "SpotShape", name: "lamp", configuration: { lamp: [[4096, 4096]], radius: 9 }, schedule: ["night"] },
-            { type: "OvalShape", name: "tree", option: "word", configuration: { tree: [[2048, 1365], [4096, 3549]] }, visible: true, view: 0, locked: true },
-            { type: "Rect", name: "elsewhere", configuration: { elsewhere: [[1433, 1775], [3481, 3413]] }, view: 7, enabled: false },
+            {
+                note: "first",
+                type: "SpotShape",
+                name: "lamp",
+                configuration: { lamp: [[4096, 4096]], radius: 9 },
+                schedule: ["night"],
+            },
+            {
+                type: "OvalShape",
+                name: "tree",
+                option: "word",
+                configuration: {
+                    tree: [
+                        [2048, 1365],
+                        [4096, 3549],
+                    ],
+                },
+                visible: true,
+                view: 0,
+                locked: true,
+            },
+            {
+                type: "Rect",
+                name: "elsewhere",
+                configuration: {
+                    elsewhere: [
+                        [1433, 1775],
+                        [3481, 3413],
+                    ],
+                },
+                view: 7,
+                enabled: false,
+            },
             { type: "Polygon", name: "later", configuration: null },
         ],
         last: [true, null],

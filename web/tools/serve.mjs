@@ -7,13 +7,23 @@ import { extname, join, normalize, resolve } from "node:path";
 import { pathToFileURL } from "node:url";
 
 const TYPES = {
-    ".html": "text/html; charset=utf-8", ".css": "text/css; charset=utf-8", ".js": "text/javascript; charset=utf-8",
-    ".mjs": "text/javascript; charset=utf-8", ".json": "application/json", ".wasm": "application/wasm", ".svg": "image/svg+xml",
-    ".png": "image/png", ".jpg": "image/jpeg", ".webm": "video/webm", ".mp4": "video/mp4",
+    ".html": "text/html; charset=utf-8",
+    ".css": "text/css; charset=utf-8",
+    ".js": "text/javascript; charset=utf-8",
+    ".mjs": "text/javascript; charset=utf-8",
+    ".json": "application/json",
+    ".wasm": "application/wasm",
+    ".svg": "image/svg+xml",
+    ".png": "image/png",
+    ".jpg": "image/jpeg",
+    ".webm": "video/webm",
+    ".mp4": "video/mp4",
 };
 
 function fileFor(folders, path) {
-    const prefix = Object.keys(folders).filter((each) => path.startsWith(each)).sort((a, b) => b.length - a.length)[0];
+    const prefix = Object.keys(folders)
+        .filter((each) => path.startsWith(each))
+        .sort((a, b) => b.length - a.length)[0];
     if (prefix === undefined) {
         return null;
     }
@@ -37,11 +47,19 @@ async function answer(folders, request, response) {
         return;
     }
     const part = partOf(request.headers.range, found.size);
-    const headers = { "Content-Type": TYPES[extname(file)] ?? "application/octet-stream", "Cache-Control": "no-store", "Accept-Ranges": "bytes" };
+    const headers = {
+        "Content-Type": TYPES[extname(file)] ?? "application/octet-stream",
+        "Cache-Control": "no-store",
+        "Accept-Ranges": "bytes",
+    };
     if (part === null) {
         response.writeHead(200, { ...headers, "Content-Length": found.size });
     } else {
-        response.writeHead(206, { ...headers, "Content-Length": part.end - part.start + 1, "Content-Range": `bytes ${part.start}-${part.end}/${found.size}` });
+        response.writeHead(206, {
+            ...headers,
+            "Content-Length": part.end - part.start + 1,
+            "Content-Range": `bytes ${part.start}-${part.end}/${found.size}`,
+        });
     }
     createReadStream(file, part ?? {}).pipe(response);
 }

@@ -13,5 +13,7 @@ for (const name of readdirSync(folder).filter((each) => /\.(js|wasm)$/.test(each
     total.gzip += gzipSync(bytes, { level: 9 }).length;
     total.brotli += brotliCompressSync(bytes).length;
 }
-console.log(`${total.files} files, ${total.plain} bytes; packed ${total.gzip} by gzip, ${total.brotli} by brotli; the limit is ${LIMIT}`);
+console.log(
+    `${total.files} files, ${total.plain} bytes; packed ${total.gzip} by gzip, ${total.brotli} by brotli; the limit is ${LIMIT}`,
+);
 process.exitCode = total.files > 0 && total.gzip < LIMIT ? 0 : 1;

@@ -12,7 +12,8 @@ const SHAPES: { readonly [K in RuleType]: string } = {
     ArrowLineShape: '<path d="M3 16 17 4m-6 .6L17 4l-1.4 6"/>',
     XLineShape: '<path d="M3 10h14M10 17V3M7.4 5.6 10 3l2.6 2.6"/>',
     BrokenLine: '<path d="m2 15 5-9 5 7 6-9"/>',
-    PixelCountShape: '<rect x="3" y="4" width="14" height="12" stroke-dasharray="2.4 2.4"/><path d="M7 13V9m3 4V7m3 6v-3"/>',
+    PixelCountShape:
+        '<rect x="3" y="4" width="14" height="12" stroke-dasharray="2.4 2.4"/><path d="M7 13V9m3 4V7m3 6v-3"/>',
     CrossShape: '<path d="M10 5v10M5 10h10"/>',
     BigCrossShape: '<path d="M7 2v16M2 7h16M13 2v16M2 13h16" stroke-width="1.2"/>',
     SpotShape: '<circle cx="10" cy="10" r="4"/>',

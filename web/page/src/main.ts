@@ -135,14 +135,22 @@ function fileChosen(id: string, take: (file: File) => Promise<void>): void {
 
 function makeTools(): void {
     const button = (type: RuleType | null, title: string): HTMLButtonElement => {
-        const element = make("button", { innerHTML: icon(type ?? "pointer"), title, type: "button" }, make("span", { textContent: title }));
+        const element = make(
+            "button",
+            { innerHTML: icon(type ?? "pointer"), title, type: "button" },
+            make("span", { textContent: title }),
+        );
         if (type !== null) {
             element.dataset["type"] = type;
         }
         element.addEventListener("click", () => choose(type));
         return element;
     };
-    byId("tools").append(button(null, "Select and edit"), make("hr"), ...RULE_TYPES.map(({ type, title }) => button(type, title)));
+    byId("tools").append(
+        button(null, "Select and edit"),
+        make("hr"),
+        ...RULE_TYPES.map(({ type, title }) => button(type, title)),
+    );
 }
 
 function listen(): void {

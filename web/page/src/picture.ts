@@ -4,8 +4,12 @@ import { startStreet } from "./street.js";
 /** Waits until an element knows the size of its picture. */
 function known(element: HTMLVideoElement | HTMLImageElement): Promise<void> {
     return new Promise((done, failed) => {
-        element.addEventListener(element instanceof HTMLVideoElement ? "loadedmetadata" : "load", () => done(), { once: true });
-        element.addEventListener("error", () => failed(new Error("The browser cannot show this file.")), { once: true });
+        element.addEventListener(element instanceof HTMLVideoElement ? "loadedmetadata" : "load", () => done(), {
+            once: true,
+        });
+        element.addEventListener("error", () => failed(new Error("The browser cannot show this file.")), {
+            once: true,
+        });
     });
 }
 

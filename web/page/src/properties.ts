@@ -11,7 +11,10 @@ const MODES: { readonly [mode: string]: string } = {
     solid: "Filled",
 };
 /** What the library draws with until it is told otherwise. */
-const LIBRARY_COLOURS: { readonly selected: Rgb; readonly unselected: Rgb } = { selected: [255, 255, 0], unselected: [255, 0, 0] };
+const LIBRARY_COLOURS: { readonly selected: Rgb; readonly unselected: Rgb } = {
+    selected: [255, 255, 0],
+    unselected: [255, 0, 0],
+};
 
 /** A refusal is shown, and the field shows again what holds. */
 function attempt(change: () => void, show: () => void): void {
@@ -27,7 +30,12 @@ function attempt(change: () => void, show: () => void): void {
 }
 
 function row(title: string, ...fields: HTMLElement[]): HTMLLabelElement {
-    return make("label", {}, title, fields.length === 1 ? fields[0]! : make("span", { className: "swatches" }, ...fields));
+    return make(
+        "label",
+        {},
+        title,
+        fields.length === 1 ? fields[0]! : make("span", { className: "swatches" }, ...fields),
+    );
 }
 
 function textField(value: string, change: (value: string) => void, again: () => void): HTMLInputElement {
@@ -36,8 +44,16 @@ function textField(value: string, change: (value: string) => void, again: () => 
     return field;
 }
 
-function choice(value: string, choices: readonly (readonly [string, string])[], change: (value: string) => void): HTMLSelectElement {
-    const field = make("select", {}, ...choices.map(([key, title]) => make("option", { value: key, textContent: title })));
+function choice(
+    value: string,
+    choices: readonly (readonly [string, string])[],
+    change: (value: string) => void,
+): HTMLSelectElement {
+    const field = make(
+        "select",
+        {},
+        ...choices.map(([key, title]) => make("option", { value: key, textContent: title })),
+    );
     field.value = value;
     field.addEventListener("change", () => change(field.value));
     return field;
@@ -59,7 +75,10 @@ function modeRow(rule: Rule): HTMLElement | null {
         return null;
     }
     const choices = ["", ...modes].map((mode) => [mode, MODES[mode] ?? mode] as const);
-    return row("Behaviour", choice(option ?? "", choices, (mode) => rule.replace({ option: mode === "" ? undefined : mode })));
+    return row(
+        "Behaviour",
+        choice(option ?? "", choices, (mode) => rule.replace({ option: mode === "" ? undefined : mode })),
+    );
 }
 
 /** Shows what can be set on a rule; null hides it. What the user is typing is left alone, unless it is refused. */
@@ -73,14 +92,28 @@ export function showProperties(rule: Rule | null, refused = false): void {
     const { facts } = rule;
     const rows: (HTMLElement | null)[] = [
         make("h2", { textContent: facts.title }),
-        row("Name", textField(rule.name, (name) => rule.replace({ name }), again)),
-        row("Caption", textField(rule.caption, (caption) => (rule.caption = caption), again)),
-        row("Event", textField(rule.label, (label) => rule.replace({ label }), again)),
+        row(
+            "Name",
+            textField(rule.name, (name) => rule.replace({ name }), again),
+        ),
+        row(
+            "Caption",
+            textField(rule.caption, (caption) => (rule.caption = caption), again),
+        ),
+        row(
+            "Event",
+            textField(rule.label, (label) => rule.replace({ label }), again),
+        ),
         row("Colours", colourField(rule, "unselected"), colourField(rule, "selected")),
     ];
     if (facts.directions.length > 0) {
         const choices = facts.directions.map(({ value, title }) => [String(value), title] as const);
-        rows.push(row("Direction", choice(String(rule.direction), choices, (value) => (rule.direction = Number(value)))));
+        rows.push(
+            row(
+                "Direction",
+                choice(String(rule.direction), choices, (value) => (rule.direction = Number(value))),
+            ),
+        );
     }
     rows.push(modeRow(rule));
     const redraw = make("button", { textContent: "Draw again", type: "button" });

@@ -2,7 +2,12 @@ import { hexOf, type Rule, type RuleCanvas } from "rulecanvas";
 import { byId, make } from "./dom.js";
 import { icon } from "./icons.js";
 
-function button(sign: Parameters<typeof icon>[0], title: string, pressed: boolean | null, action: () => void): HTMLButtonElement {
+function button(
+    sign: Parameters<typeof icon>[0],
+    title: string,
+    pressed: boolean | null,
+    action: () => void,
+): HTMLButtonElement {
     const element = make("button", { innerHTML: icon(sign), title, type: "button" });
     element.setAttribute("aria-label", title);
     if (pressed !== null) {
@@ -23,8 +28,18 @@ function entryOf(canvas: RuleCanvas, rule: Rule, selected: boolean): HTMLLIEleme
     const entry = make("li", { className: rule.visible ? "" : "hidden" }, chip, words);
     entry.setAttribute("aria-selected", String(selected));
     entry.append(
-        button(rule.visible ? "eye" : "hiddenEye", rule.visible ? "Hide" : "Show", null, () => (rule.visible = !rule.visible)),
-        button(rule.locked ? "lock" : "unlocked", rule.locked ? "Unlock" : "Lock", rule.locked, () => (rule.locked = !rule.locked)),
+        button(
+            rule.visible ? "eye" : "hiddenEye",
+            rule.visible ? "Hide" : "Show",
+            null,
+            () => (rule.visible = !rule.visible),
+        ),
+        button(
+            rule.locked ? "lock" : "unlocked",
+            rule.locked ? "Unlock" : "Lock",
+            rule.locked,
+            () => (rule.locked = !rule.locked),
+        ),
         button("bin", `Delete ${rule.name}`, null, () => rule.remove()),
     );
     entry.addEventListener("click", () => {

@@ -37,8 +37,14 @@ function drawHouses(g: CanvasRenderingContext2D): void {
     g.fillStyle = sky;
     g.fillRect(0, 0, WIDTH, HORIZON + 10);
     const houses: [number, number, number, string][] = [
-        [0, 190, 330, "#7d6a5c"], [190, 150, 250, "#96897b"], [340, 130, 180, "#6f7883"], [470, 110, 130, "#8b8177"],
-        [700, 120, 150, "#77808a"], [820, 150, 215, "#8d7763"], [970, 140, 260, "#a39787"], [1110, 170, 340, "#72665e"],
+        [0, 190, 330, "#7d6a5c"],
+        [190, 150, 250, "#96897b"],
+        [340, 130, 180, "#6f7883"],
+        [470, 110, 130, "#8b8177"],
+        [700, 120, 150, "#77808a"],
+        [820, 150, 215, "#8d7763"],
+        [970, 140, 260, "#a39787"],
+        [1110, 170, 340, "#72665e"],
     ];
     for (const [x, width, height, paint] of houses) {
         const top = HORIZON + 20 - height * 0.72;
@@ -57,13 +63,34 @@ function drawRoad(g: CanvasRenderingContext2D): void {
     const middle = WIDTH / 2;
     g.fillStyle = "#8f9387";
     g.fillRect(0, HORIZON + 8, WIDTH, HEIGHT);
-    polygon(g, "#a9a79e", [middle - 90, HORIZON + 8], [middle + 90, HORIZON + 8], [WIDTH + 160, HEIGHT], [-160, HEIGHT]);
-    polygon(g, "#4b4f55", [middle - 40, HORIZON + 8], [middle + 40, HORIZON + 8], [middle + 470, HEIGHT], [middle - 470, HEIGHT]);
+    polygon(
+        g,
+        "#a9a79e",
+        [middle - 90, HORIZON + 8],
+        [middle + 90, HORIZON + 8],
+        [WIDTH + 160, HEIGHT],
+        [-160, HEIGHT],
+    );
+    polygon(
+        g,
+        "#4b4f55",
+        [middle - 40, HORIZON + 8],
+        [middle + 40, HORIZON + 8],
+        [middle + 470, HEIGHT],
+        [middle - 470, HEIGHT],
+    );
     for (let i = 0; i < 12; ++i) {
         const near = HORIZON + 14 + (HEIGHT - HORIZON) * ((i + 0.5) / 12) ** 2;
         const far = HORIZON + 14 + (HEIGHT - HORIZON) * (i / 12) ** 2;
         const thick = halfRoad(near) / 60;
-        polygon(g, "#d9d9d2", [middle - thick / 2, far], [middle + thick / 2, far], [middle + thick, near], [middle - thick, near]);
+        polygon(
+            g,
+            "#d9d9d2",
+            [middle - thick / 2, far],
+            [middle + thick / 2, far],
+            [middle + thick, near],
+            [middle - thick, near],
+        );
     }
     for (let i = -7; i < 7; ++i) {
         const [top, bottom] = [468, 540];
@@ -75,7 +102,11 @@ function drawRoad(g: CanvasRenderingContext2D): void {
 function drawTree(g: CanvasRenderingContext2D, x: number, y: number, size: number): void {
     g.fillStyle = "#4c3d31";
     g.fillRect(x - size * 0.06, y - size * 0.5, size * 0.12, size * 0.5);
-    for (const [dx, dy, r, paint] of [[-0.2, -0.62, 0.3, "#3f5f3c"], [0.2, -0.66, 0.3, "#47693f"], [0, -0.88, 0.34, "#557a48"]] as const) {
+    for (const [dx, dy, r, paint] of [
+        [-0.2, -0.62, 0.3, "#3f5f3c"],
+        [0.2, -0.66, 0.3, "#47693f"],
+        [0, -0.88, 0.34, "#557a48"],
+    ] as const) {
         g.fillStyle = paint;
         g.beginPath();
         g.arc(x + dx * size, y + dy * size, r * size, 0, 7);
@@ -114,7 +145,12 @@ export function startStreet(): HTMLCanvasElement {
     const ground = still.getContext("2d") as unknown as CanvasRenderingContext2D;
     drawHouses(ground);
     drawRoad(ground);
-    [[120, 520, 190], [250, 380, 110], [1150, 540, 200], [1010, 390, 115]].forEach(([x, y, size]) => drawTree(ground, x!, y!, size!));
+    [
+        [120, 520, 190],
+        [250, 380, 110],
+        [1150, 540, 200],
+        [1010, 390, 115],
+    ].forEach(([x, y, size]) => drawTree(ground, x!, y!, size!));
     const g = canvas.getContext("2d")!;
     let before = performance.now();
     const draw = (now: number): void => {
