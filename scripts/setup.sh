@@ -11,6 +11,7 @@
 #   lint    clang-format and clang-tidy
 #   demo    a virtual display, a video converter and the fonts of the demonstrations
 #   editor  a mouse and a keyboard for the virtual display, and pictures of it
+#   web     emscripten, a browser and the packages of web/package.json
 # Without a group: build and test.
 set -euo pipefail
 
@@ -25,6 +26,7 @@ steps=0
 packages=()
 want_jsoncpp=false
 want_wine=false
+want_npm=false
 
 select_group() {
     case $1 in
@@ -43,7 +45,14 @@ select_group() {
         lint) packages+=(clang-format clang-tidy) ;;
         demo) packages+=(xvfb xauth ffmpeg python3 fonts-liberation) ;;
         editor) packages+=(xvfb xdotool imagemagick fonts-liberation) ;;
-        *) die "unknown group '$1'; known are build, test, fuzz, bench, lint, demo and editor" ;;
+        web)
+            packages+=(cmake ninja-build g++ dpkg-dev libjsoncpp-dev emscripten chromium fonts-liberation)
+            command -v node >/dev/null || packages+=(nodejs)
+            command -v npm >/dev/null || packages+=(npm)
+            want_jsoncpp=true
+            want_npm=true
+            ;;
+        *) die "unknown group '$1'; known are build, test, fuzz, bench, lint, demo, editor and web" ;;
     esac
 }
 
@@ -89,6 +98,9 @@ wine_ready() {
         [[ -f $(wine_prefix "$bits")/.complete ]] || return 1
     done
 }
+
+# The list that npm keeps of what it installed is younger than the list of what is wanted.
+npm_ready() { [[ $root/web/node_modules/.package-lock.json -nt $root/web/package.json ]]; }
 
 as_root() {
     if ((EUID == 0)); then
@@ -179,12 +191,20 @@ create_wine_prefixes() {
     done
 }
 
+install_npm_packages() {
+    begin "installing the packages of web/package.json"
+    (cd "$root/web" && npm install --no-audit --no-fund) >>"$log" 2>&1 ||
+        die_with_log "the packages of web/package.json are missing: npm install failed"
+    touch "$root/web/node_modules/.package-lock.json"
+}
+
 count_steps() {
     steps=0
     mapfile -t missing < <(missing_packages)
     if ((${#missing[@]} > 0)); then steps=$((steps + 1)); fi
     if $want_jsoncpp && ! jsoncpp_ready; then steps=$((steps + 1)); fi
     if $want_wine && ! wine_ready; then steps=$((steps + 1)); fi
+    if $want_npm && ! npm_ready; then steps=$((steps + 1)); fi
 }
 
 (($# > 0)) || set -- build test
@@ -216,4 +236,6 @@ if ((${#missing[@]} > 0)); then
 fi
 if $want_jsoncpp && ! jsoncpp_ready; then fetch_jsoncpp; fi
 if $want_wine && ! wine_ready; then create_wine_prefixes; fi
+if $want_wine && ! wine_ready; then create_wine_prefix; fi
+if $want_npm && ! npm_ready; then install_npm_packages; fi
 say "done"

@@ -17,6 +17,7 @@ steps=(
     "windows-x86:test_preset windows-x86"
     "windows-x64:test_preset windows-x64"
     "editor:scripts/test-editor.sh"
+    "web:scripts/test-web.sh"
     "lint:scripts/lint.sh"
 )
 total_passed=0

@@ -1,0 +1,137 @@
+import type { CoreModule } from "./core.js";
+import { DisplayList } from "./display_list.js";
+import type { Point, Size } from "./geometry.js";
+import type { Pointing } from "./help.js";
+import { Host } from "./host.js";
+import { Painter } from "./painter.js";
+import type { Recording } from "./recording.js";
+import { naturalSize, Stage, type Target } from "./stage.js";
+import { TextPen } from "./text.js";
+import { TextPlaces } from "./text_places.js";
+
+/** What the board tells. */
+export interface BoardListener {
+    notified(text: string): void;
+    captured(taken: boolean): void;
+    /** The view has another size now. */
+    resized(): void;
+    /** A frame is about to be drawn. */
+    beforeFrame(): void;
+}
+
+const FINGER_HANDLE_SCALE = 1.6;
+
+/** A container of the library and the canvas that shows it: paints are asked of the library and drawn once a frame. */
+export class Board {
+    readonly host: Host;
+    /** Fingers get larger handles. */
+    pointing: Pointing = matchMedia("(pointer: coarse)").matches ? "touch" : "mouse";
+    private readonly stage: Stage;
+    private readonly painter: Painter;
+    private readonly places: TextPlaces;
+    private readonly texts = new TextPen();
+    private readonly context: CanvasRenderingContext2D;
+    private frame = 0;
+    /** What the canvas shows. */
+    private drawn: DisplayList | null = null;
+    /** Whether a paint ahead differed from what the canvas shows. */
+    private differs = false;
+    /** Whether everything has to be drawn, whatever the canvas shows. */
+    private mustDraw = true;
+    private ended = false;
+
+    constructor(
+        core: CoreModule,
+        readonly canvas: HTMLCanvasElement,
+        target: Target | null,
+        private readonly view: number,
+        private readonly givenPicture: Size | undefined,
+        private readonly listener: BoardListener,
+    ) {
+        this.context = canvas.getContext("2d")!;
+        this.places = new TextPlaces(this.context, this.texts);
+        this.painter = new Painter(this.context, this.texts, this.places);
+        this.host = new Host(core, {
+            notified: (text) => listener.notified(text),
+            captured: (taken) => listener.captured(taken),
+            redrawRequested: () => this.requestFrame(),
+            measured: (text, size) => this.texts.measure(this.context, text, size),
+        });
+        this.stage = new Stage(canvas, target, () => this.resize());
+        this.resize();
+    }
+
+    /** The view in CSS pixels. */
+    get size(): Size {
+        return this.stage.size;
+    }
+
+    /** The picture in pixels of its own; the view where nothing tells it. */
+    get picture(): Size {
+        return this.givenPicture ?? (this.stage.target && naturalSize(this.stage.target)) ?? this.stage.size;
+    }
+
+    toView(clientX: number, clientY: number): Point {
+        return this.stage.toView(clientX, clientY);
+    }
+
+    requestFrame(): void {
+        if (this.frame === 0 && !this.ended) {
+            this.frame = requestAnimationFrame(() => this.render());
+        }
+    }
+
+    /** Lets the library paint before a frame does: some shapes take over in a paint what was done to them. */
+    paintAhead(): Recording {
+        this.differs = this.host.paint(this.view) || this.differs;
+        this.requestFrame();
+        return this.host.recording();
+    }
+
+    /** Draws at once instead of with the next frame: what differs from what the canvas shows. */
+    render(): void {
+        cancelAnimationFrame(this.frame);
+        this.frame = 0;
+        if (this.ended) {
+            return;
+        }
+        this.listener.beforeFrame();
+        if (this.host.paint(this.view) || this.differs || this.mustDraw) {
+            const list = new DisplayList(this.host.recording(), this.places);
+            const parts = this.mustDraw || this.drawn === null ? null : list.damageSince(this.drawn);
+            this.painter.draw(list, parts, this.stage.ratio, this.pointing === "touch" ? FINGER_HANDLE_SCALE : 1);
+            this.drawn = list;
+            this.differs = false;
+            this.mustDraw = false;
+        }
+    }
+
+    /** The next frame is drawn even if nothing of the library's differs. */
+    invalidate(): void {
+        this.mustDraw = true;
+        this.requestFrame();
+    }
+
+    end(): void {
+        this.ended = true;
+        cancelAnimationFrame(this.frame);
+        this.stage.end();
+        this.host.release();
+    }
+
+    private resize(): void {
+        // The stage speaks once before the constructor knows it.
+        if (this.stage === undefined) {
+            return;
+        }
+        const { width, height } = this.size;
+        this.host.resize(width, height);
+        this.places.view = this.size;
+        this.host.setVideoSize(this.picture.width, this.picture.height);
+        if (this.texts.follow(this.canvas)) {
+            this.host.forgetMeasures();
+        }
+        this.listener.resized();
+        this.invalidate();
+    }
+}

@@ -1,0 +1,79 @@
+// What every browser test needs: a list of tests, a browser, a server, and checks.
+import { dirname, join, resolve } from "node:path";
+import { fileURLToPath } from "node:url";
+import { chromium } from "playwright-core";
+import { serve } from "../tools/serve.mjs";
+
+export const root = resolve(dirname(fileURLToPath(import.meta.url)), "../..");
+export const built = join(root, "build/web");
+
+const FLAGS = [
+    "--no-sandbox",
+    "--disable-gpu",
+    "--disable-quic",
+    "--no-first-run",
+    "--disable-background-networking",
+    "--disable-component-update",
+    "--disable-sync",
+    "--autoplay-policy=no-user-gesture-required",
+];
+
+/** The tests in the order in which their files add them. */
+export const tests = [];
+
+export function test(name, run) {
+    tests.push({ name, run });
+}
+
+/** `folders` are served beside the page's; `flags` are for the browser. */
+export async function startBrowser({ folders = {}, flags = [] } = {}) {
+    const browser = await chromium.launch({
+        executablePath: process.env.CHROMIUM ?? "/usr/bin/chromium",
+        args: [...FLAGS, ...flags],
+    });
+    const { server, address } = await serve({ "/": join(built, "site"), "/test/": join(root, "web/test"), ...folders });
+    const end = async () => {
+        await browser.close();
+        server.close();
+    };
+    return { browser, address, end };
+}
+
+/** A page of its own for a test; everything that the browser complains about fails the test. */
+export async function openPage(browser, address, path, settings = {}) {
+    const context = await browser.newContext({ viewport: { width: 1000, height: 800 }, ...settings });
+    const page = await context.newPage();
+    const complaints = [];
+    page.on("console", (message) => {
+        if (message.type() === "error" || message.type() === "warning") {
+            complaints.push(message.text());
+        }
+    });
+    page.on("pageerror", (error) => complaints.push(String(error)));
+    page.on("requestfailed", (request) => complaints.push(`not loaded: ${request.url()}`));
+    await page.goto(address + path);
+    return { page, complaints, close: () => context.close() };
+}
+
+export function equal(actual, expected, what) {
+    const [a, e] = [JSON.stringify(actual), JSON.stringify(expected)];
+    if (a !== e) {
+        throw new Error(`${what}: ${a} instead of ${e}`);
+    }
+}
+
+export function isTrue(value, what) {
+    if (!value) {
+        throw new Error(`${what} does not hold`);
+    }
+}
+
+/** A drag with the mouse in whole steps. */
+export async function drag(page, [x1, y1], [x2, y2], moves = 4) {
+    await page.mouse.move(x1, y1);
+    await page.mouse.down();
+    for (let i = 1; i <= moves; ++i) {
+        await page.mouse.move(x1 + ((x2 - x1) * i) / moves, y1 + ((y2 - y1) * i) / moves);
+    }
+    await page.mouse.up();
+}
