@@ -236,6 +236,5 @@ if ((${#missing[@]} > 0)); then
 fi
 if $want_jsoncpp && ! jsoncpp_ready; then fetch_jsoncpp; fi
 if $want_wine && ! wine_ready; then create_wine_prefixes; fi
-if $want_wine && ! wine_ready; then create_wine_prefix; fi
 if $want_npm && ! npm_ready; then install_npm_packages; fi
 say "done"
