@@ -6,7 +6,7 @@
 #   build   compilers for both targets, CMake, JsonCpp and its source for the cross build
 #   test    GoogleTest, and 32-bit Wine with a prefix of the project's own
 #   fuzz    the run-time libraries of clang's sanitizers and fuzzer
-#   bench   Google Benchmark
+#   bench   Google Benchmark, and Python for the report
 #   lint    clang-format and clang-tidy
 #   demo    a virtual display, a video converter and the fonts of the demonstrations
 # Without a group: build and test.
@@ -36,7 +36,7 @@ select_group() {
             want_wine=true
             ;;
         fuzz) packages+=(clang llvm libclang-rt-dev) ;;
-        bench) packages+=(libbenchmark-dev) ;;
+        bench) packages+=(libbenchmark-dev python3) ;;
         lint) packages+=(clang-format clang-tidy) ;;
         demo) packages+=(xvfb ffmpeg fonts-liberation) ;;
         *) die "unknown group '$1'; known are build, test, fuzz, bench, lint and demo" ;;
