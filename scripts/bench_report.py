@@ -98,6 +98,16 @@ def document(results):
         "- The surface takes the calls and draws nothing; both sides call the same one equally often.\n"
         "- Memory is what the heap holds more after loading, a press and a paint. A few figures carry the container's tables.",
     ]
+    parts += [
+        "## What the difference is",
+        "- A press looks up two strips of a table, so many figures cost it less than one pass over them; a few cost it the "
+        "same as many.\n"
+        "- A paint copies each figure under its lock and draws from the copy: no lock is held while the host draws, and a figure "
+        "may be edited or deleted meanwhile.\n"
+        "- A drag step tests that no edges cross unless the step moves every corner without rounding.\n"
+        "- A figure's memory is its points, its names, its lock and its places in the lists of its container.\n"
+        "- Most of the size of the DLL is the C++ library's streams, through which JsonCpp reads numbers and writes texts.",
+    ]
     if sizes():
         parts += ["## Size", "\n".join(f"- {line}" for line in sizes())]
     return "\n\n".join(parts) + "\n"
