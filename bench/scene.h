@@ -1,44 +1,52 @@
 #pragma once
 
+#include "figures.h"
+#include "plain_surface.h"
+
 #include <rulecanvas/host.hpp>
 
-#include <array>
-#include <string>
-#include <vector>
+#include <benchmark/benchmark.h>
 
 namespace rulecanvas::bench {
 
 constexpr ViewID View = 1;
-constexpr std::array<const char*, 3> Kinds{"Rect", "LineShape", "Polygon"};
 
-/// A view full of complete, deselected figures of one kind, side by side, all of which stay clear of the top left
-/// corner.
+/// A container with one view, and as many figures of one kind as it is asked to load.
 class Scene {
   public:
-    /// The scene of `count` figures of a kind. Made when it is first asked for and kept: the end of every
-    /// figure waits for paints that may still run, which would take longer than all measurements.
-    static Scene& Of(int kind, int count);
+    explicit Scene(Kind figureKind);
 
-    /// Figures of all scenes made so far.
-    static int TotalCount();
+    /// The scene of `count` figures of a kind, complete and deselected. Made when it is first asked for and kept for the
+    /// other measurements, each of which leaves it as it was.
+    static Scene& Of(Kind kind, int count);
 
-    Scene(int kind, int count);
-
+    ShapeID Load(const std::string& configuration);
     void Send(MouseCode code, const PointF& at) { container.SendMouse(code, View, at.x, at.y); }
-    /// One more figure, in the `place`th cell of the scene.
-    ShapeID Add(int place);
+    void Click(const PointF& at);
+    void Paint(PlainSurface& surface) const { container.Paint(View, surface); }
 
     Container container;
     std::vector<ShapeID> shapes;
-    ClientRect clientRect;
-    /// Of the figure that a hit test reaches last, in pixels.
-    PointF firstCornerOfLast;
-    double secondsToLoad = 0.0;
-    double bytesPerShape = 0.0;
 
   private:
-    const std::string type;
-    const int columns;
+    const Kind kind;
 };
+
+/// The configurations of the first `count` figures.
+std::vector<std::string> ConfigurationsOf(Kind kind, int count);
+
+/// 10, 100, 1,000 and 10,000 figures.
+void ForAllCounts(benchmark::internal::Benchmark* measured);
+
+inline int CountOf(const benchmark::State& state) {
+    return static_cast<int>(state.range(0));
+}
+
+/// Registers `measured` for a kind of figures.
+template <class Measured>
+benchmark::internal::Benchmark* RegisterFor(Kind kind, const std::string& name, Measured measured) {
+    const auto run = [kind, measured](benchmark::State& state) { measured(state, kind); };
+    return benchmark::RegisterBenchmark((name + "/" + TypeOf(kind)).c_str(), run)->Apply(ForAllCounts);
+}
 
 } // namespace rulecanvas::bench

@@ -7,7 +7,7 @@
 #   test    GoogleTest, Python for the samples of the documents, what the examples draw with, and Wine for 32 and 64 bit
 #           with prefixes of the project's own
 #   fuzz    the run-time libraries of clang's sanitizers and fuzzer
-#   bench   Google Benchmark
+#   bench   Google Benchmark, and Python for the report
 #   lint    clang-format and clang-tidy
 #   demo    a virtual display, a video converter and the fonts of the demonstrations
 #   editor  a mouse and a keyboard for the virtual display, and pictures of it
@@ -41,7 +41,7 @@ select_group() {
             want_wine=true
             ;;
         fuzz) packages+=(clang llvm libclang-rt-dev) ;;
-        bench) packages+=(libbenchmark-dev) ;;
+        bench) packages+=(libbenchmark-dev python3) ;;
         lint) packages+=(clang-format clang-tidy) ;;
         demo) packages+=(xvfb xauth ffmpeg python3 fonts-liberation) ;;
         editor) packages+=(xvfb xdotool imagemagick fonts-liberation) ;;

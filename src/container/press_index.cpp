@@ -109,6 +109,7 @@ void PressIndex::Rebuild(const ShapeMap& shapes) {
         ViewOf(shape->GetViewId()).shapes.push_back(shape);
     }
     for (View& view : views) {
+        view.shapes.shrink_to_fit(); // made for long
         std::vector<Claim> claims;
         for (const ShapePtr& shape : view.shapes) {
             claims.push_back(ClaimOf(*shape));

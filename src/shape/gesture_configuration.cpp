@@ -25,8 +25,8 @@ Refused CGestureShape::SetVideoAnalyseShapeData(const Configuration& configurati
 Refused CGestureShape::Configure(const Configuration& configuration) {
     if (TakesStyle()) {
         LockGuard guard(lock);
-        ReadStyle(configuration.styleOrMode, style);
-        maxPtNum = style.xArrowLine ? PathMaximum : maxPtNum;
+        ChangeStyle([&](ShapeStyle& changed) { ReadStyle(configuration.styleOrMode, changed); });
+        maxPtNum = style->xArrowLine ? PathMaximum : maxPtNum;
     }
     BeginConfiguration(configuration.shapeName);
     ReadWord(configuration.styleOrMode);

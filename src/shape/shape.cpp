@@ -6,7 +6,7 @@ namespace rulecanvas {
 
 using platform::LockGuard;
 
-CVideoAnalyseShape::CVideoAnalyseShape() : shapeId(platform::IssueIdentity(this)) {}
+CVideoAnalyseShape::CVideoAnalyseShape() : style(Shared(ShapeStyle())), shapeId(platform::IssueIdentity(this)) {}
 
 CVideoAnalyseShape::~CVideoAnalyseShape() = default;
 
@@ -55,8 +55,10 @@ CVideoAnalyseShape* CVideoAnalyseShape::FindSubShape(ShapeID /*id*/) {
 
 int CVideoAnalyseShape::SetShapeDirection(ShapeID /*id*/, int newDirection) {
     LockGuard guard(lock);
-    style.hostDirection = newDirection;
-    style.direction = newDirection;
+    ChangeStyle([newDirection](ShapeStyle& changed) {
+        changed.hostDirection = newDirection;
+        changed.direction = newDirection;
+    });
     return 1;
 }
 
@@ -101,7 +103,7 @@ void CVideoAnalyseShape::FitToClientRect(const ClientRect& viewZero) {
 
 int CVideoAnalyseShape::GetShapeDirection() const {
     LockGuard guard(lock);
-    return style.direction;
+    return style->direction;
 }
 
 void CVideoAnalyseShape::SetEventName(const char* text) {
@@ -110,9 +112,12 @@ void CVideoAnalyseShape::SetEventName(const char* text) {
 }
 
 void CVideoAnalyseShape::SetShowNameText(const char* text) {
-    std::string copy = TextOrEmpty(text);
+    std::unique_ptr<const std::string> copy;
+    if (!IsEmpty(text)) {
+        copy = std::make_unique<const std::string>(text);
+    }
     LockGuard guard(lock);
-    showNameText = std::move(copy);
+    showNameText.swap(copy);
 }
 
 void CVideoAnalyseShape::EnableShape(bool enable) {
@@ -125,9 +130,9 @@ void CVideoAnalyseShape::EnableShape(bool enable) {
 }
 
 void CVideoAnalyseShape::SetShapeColor(int red, int green, int blue, bool selectedColour) {
+    const ColorF colour = OpaqueColour(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue));
     LockGuard guard(lock);
-    (selectedColour ? style.selColor : style.unSelColor) =
-        OpaqueColour(static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue));
+    ChangeStyle([&](ShapeStyle& changed) { (selectedColour ? changed.selColor : changed.unSelColor) = colour; });
 }
 
 void CVideoAnalyseShape::SetMaxPtNum(int maximum, int minimum) {
@@ -195,9 +200,13 @@ void CVideoAnalyseShape::LearnViewSize(const ClientRect& view) {
 
 void CVideoAnalyseShape::CopyLook(ShapeLook& look) const {
     look.figure = figure;
-    look.style = style;
-    if (!look.caption.empty() || !showNameText.empty()) {
-        look.caption = showNameText;
+    if (look.style != style) { // counting one more user takes longer than all else here
+        look.style = style;
+    }
+    if (showNameText != nullptr) {
+        look.caption = *showNameText;
+    } else {
+        look.caption.clear();
     }
     look.state = state;
     look.selected = selected;

@@ -122,6 +122,13 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     /// The same from a rectangle that was asked for; with the lock held.
     void LearnViewSize(const ClientRect& view);
     void CopyLook(ShapeLook& look) const;
+    /// `change` gets a copy of the style, which then takes its place; with the lock held.
+    template <class Change>
+    void ChangeStyle(Change change) {
+        ShapeStyle changed = *style;
+        change(changed);
+        style = Shared(changed);
+    }
     /// Whether a point may be used in the shape's view, whose client rectangle is given.
     bool AcceptsPoint(const PointF& point, const ClientRect& view) const;
     /// The answer of an owner that judges the figure, if there is one; `complete` marks its final form.
@@ -148,10 +155,11 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     std::atomic<bool> visible{true};
     mutable platform::ContainerMutex lock;
     Figure figure;
-    ShapeStyle style;
+    StylePtr style;
 
   private:
-    std::string showNameText;
+    /// Null while empty.
+    std::unique_ptr<const std::string> showNameText;
 
   public:
     ListenerTicket buttonUpTicket{0};

@@ -3,7 +3,9 @@
 #include "shape/json_text.h"
 #include "shape/text.h"
 
+#include <cstring>
 #include <string>
+#include <tuple>
 
 namespace rulecanvas {
 namespace {
@@ -76,7 +78,27 @@ void ReadColours(const Json::Value& root, ShapeStyle& style) {
     }
 }
 
+bool IsSame(const ColorF& a, const ColorF& b) {
+    return a.alpha == b.alpha && a.red == b.red && a.green == b.green && a.blue == b.blue;
+}
+
+bool IsSame(const FontStyle& a, const FontStyle& b) {
+    return IsSame(a.fontColor, b.fontColor) && a.fontSize == b.fontSize && std::strcmp(a.fontFace, b.fontFace) == 0;
+}
+
 } // namespace
+
+bool operator==(const ShapeStyle& a, const ShapeStyle& b) {
+    const auto numbers = [](const ShapeStyle& style) {
+        return std::tie(style.lineThickness, style.unSelLineThickness, style.penStyle, style.direction,
+                        style.hostDirection, style.mosaicSize);
+    };
+    const auto flags = [](const ShapeStyle& style) {
+        return std::tie(style.mosaicEnable, style.canAdjust, style.canMove, style.xArrowLine, style.isFill);
+    };
+    return IsSame(a.selColor, b.selColor) && IsSame(a.unSelColor, b.unSelColor) && IsSame(a.fillColor, b.fillColor) &&
+           IsSame(a.textStyle, b.textStyle) && numbers(a) == numbers(b) && flags(a) == flags(b);
+}
 
 void ReadStyle(const char* text, ShapeStyle& style) {
     Json::Value root;

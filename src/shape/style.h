@@ -36,6 +36,8 @@ struct ShapeStyle {
     ColorF fillColor = OpaqueColour(0, 0, 0);
 };
 
+bool operator==(const ShapeStyle& a, const ShapeStyle& b);
+
 /// Takes the keys of a style text over, each only when its value has the right type; a text that is empty or no JSON
 /// changes nothing. Parts of "mosaic" and of the colours are converted instead, and raise what the conversion raises.
 void ReadStyle(const char* text, ShapeStyle& style);

@@ -27,7 +27,7 @@ void DrawHead(const ShapeLook& look, IContainerGraphics& surface) {
     const auto draw = [&](const PointF& tail, const PointF& tip) {
         DrawArrowHead(tail, tip, look.Thickness(), look.Colour(), surface);
     };
-    switch (look.style.direction) {
+    switch (look.style->direction) {
     case HeadOnFirstSegment:
         return draw(path[0], path[1]);
     case HeadAtUpperEnd:

@@ -110,7 +110,7 @@ bool CLineFamilyShape::IsWithinLimit(const PointF& /*first*/, const PointF& /*po
 }
 
 Outcome CLineFamilyShape::StartEditing(const PointerEvent& press, int hitLevel) {
-    if (!style.canAdjust) {
+    if (!style->canAdjust) {
         return {};
     }
     figure.grabbedIndex = VertexIndex(figure.points, press.position);
@@ -126,7 +126,7 @@ Outcome CLineFamilyShape::StartEditing(const PointerEvent& press, int hitLevel) 
 
 /// A line that meets the border is let go.
 Outcome CLineFamilyShape::MoveTo(const PointerEvent& position) {
-    if (style.canMove && !FollowMouse(position.position, position.view)) {
+    if (style->canMove && !FollowMouse(position.position, position.view)) {
         return {Complete, effects::LetGo};
     }
     return {};
@@ -149,7 +149,7 @@ Outcome CLineFamilyShape::EndAdjust(const PointerEvent& release) {
 
 void CLineFamilyShape::AdjustEndpoint(const PointerEvent& position) {
     Points& path = figure.points;
-    if (!style.canAdjust || movedHLine || !position.HasView() ||
+    if (!style->canAdjust || movedHLine || !position.HasView() ||
         !DragPoint(figure.grabbedIndex, position.position, position.view)) {
         return;
     }

@@ -38,7 +38,7 @@ int ShapeTypeOf(LineOrientation orientation) {
 
 /// The mark goes by the direction that the host gave; the style's direction is that of arrow lines.
 void DrawMarkedSegment(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {
-    const int crossing = look.style.hostDirection;
+    const int crossing = look.style->hostDirection;
     DrawSegment(from, to, look.Thickness(), look.Colour(), surface);
     if (crossing == NoCrossing) {
         return;

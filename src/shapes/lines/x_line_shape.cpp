@@ -21,7 +21,7 @@ void DrawNamedSegment(const PointF& from, const PointF& to, const ShapeLook& loo
 }
 
 void DrawSides(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {
-    const int crossing = look.style.hostDirection;
+    const int crossing = look.style->hostDirection;
     if (crossing == NoCrossing) {
         return;
     }

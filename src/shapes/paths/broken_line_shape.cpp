@@ -46,11 +46,11 @@ Claim CBrokenLineShape::CompleteClaim() const {
 }
 
 Outcome CBrokenLineShape::StartEditing(const PointerEvent& press, int hitLevel) {
-    return style.canAdjust ? CClickPathShape::StartEditing(press, hitLevel) : Outcome{};
+    return style->canAdjust ? CClickPathShape::StartEditing(press, hitLevel) : Outcome{};
 }
 
 bool CBrokenLineShape::Follow(const PointerEvent& position) {
-    return !style.canMove || FollowMouse(position.ClampedFrom(figure.anchorPoint), position.view);
+    return !style->canMove || FollowMouse(position.ClampedFrom(figure.anchorPoint), position.view);
 }
 
 Outcome CBrokenLineShape::MoveTo(const PointerEvent& position) {

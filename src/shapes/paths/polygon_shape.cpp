@@ -36,7 +36,7 @@ void DrawDirection(const ShapeLook& look, IContainerGraphics& surface) {
         const PointF& tip = toLower ? mark.lower : mark.upper;
         DrawArrowHead(tail, tip, look.SelectedThickness(), colour, surface);
     };
-    switch (look.style.direction) {
+    switch (look.style->direction) {
     case Inward:
         return point(!InPolygon(ring, mark.upper));
     case Outward:
@@ -162,7 +162,7 @@ void CPolygonShape::DrawRest(const ShapeLook& look, IContainerGraphics& surface)
     if (closed) {
         drawClosingEdge();
     }
-    if (closed && look.style.direction != NoDirection) {
+    if (closed && look.style->direction != NoDirection) {
         drawClosingEdge();
         DrawDirection(look, surface);
     }

@@ -31,7 +31,7 @@ int PixelsBetween(float from, float to, int display, int video) {
 } // namespace
 
 CPixelCountShape::CPixelCountShape() {
-    style.lineThickness = 1;
+    ChangeStyle([](ShapeStyle& changed) { changed.lineThickness = 1; });
     minimumSide = std::numeric_limits<int>::min(); // whatever the view leaves of a drag is a size worth measuring
 }
 
@@ -104,13 +104,13 @@ void CPixelCountShape::Measure() {
 }
 
 void CPixelCountShape::Draw(const ShapeLook& look, PaintPass& pass) {
-    const ColorF& colour = look.style.selColor;
+    const ColorF& colour = look.style->selColor;
     const Points& corners = look.Path();
     if (corners.size() == CornerCount) {
         const PointF at{(corners[0].x + corners[2].x) / 2.0F + TextOffset.x,
                         (corners[0].y + corners[2].y) / 2.0F + TextOffset.y};
         const std::string size = std::to_string(pixelWidth) + "*" + std::to_string(pixelHeight);
-        DrawCaptionAt(at, look.Text(colour, look.style.textStyle.fontSize), size, pass.surface);
+        DrawCaptionAt(at, look.Text(colour, look.style->textStyle.fontSize), size, pass.surface);
         pass.surface.DrawRectangle(&corners[0], &corners[2], OutlineWidth, &colour, PatternedPen);
     }
     if (look.handles) {

@@ -190,13 +190,13 @@ void CRectangleShape::Draw(const ShapeLook& look, PaintPass& pass) {
         return;
     }
     const ColorF& colour = look.Colour();
-    const float thickness = look.style.penStyle == PatternedPen ? 1.0F : look.Thickness();
+    const float thickness = look.style->penStyle == PatternedPen ? 1.0F : look.Thickness();
     DrawCaptionAt(corners[0], look.Text(colour, FigureCaptionSize), look.caption, pass.surface);
     if (!textOnly) {
-        pass.surface.DrawRectangle(&corners[0], &corners[2], thickness, &colour, look.style.penStyle);
+        pass.surface.DrawRectangle(&corners[0], &corners[2], thickness, &colour, look.style->penStyle);
     }
-    if (look.style.mosaicEnable) {
-        DrawMosaic(corners[0], corners[2], look.style.mosaicSize, look.figure.fitted, pass.surface);
+    if (look.style->mosaicEnable) {
+        DrawMosaic(corners[0], corners[2], look.style->mosaicSize, look.figure.fitted, pass.surface);
     }
     if (look.handles && !textOnly) {
         DrawAdjustBoxes(corners, pass.surface, colour);

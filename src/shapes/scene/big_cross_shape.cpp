@@ -34,7 +34,7 @@ int Beside(int line, int offset) {
 
 void DrawCrossHair(const PointF& cross, const ShapeLook& look, IContainerGraphics& surface) {
     const float width = look.SelectedThickness();
-    const ColorF& colour = look.style.selColor;
+    const ColorF& colour = look.style->selColor;
     const PointF left{0.0F, cross.y};
     const PointF right{static_cast<float>(look.figure.fitted.width), cross.y};
     const PointF top{cross.x, 0.0F};

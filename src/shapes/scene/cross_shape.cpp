@@ -39,7 +39,7 @@ void DrawCross(const PointF& cross, float width, const ColorF& colour, IContaine
 
 /// At the first cross, and on its other side where the text would leave the picture.
 void DrawCaption(const ShapeLook& look, IContainerGraphics& surface) {
-    const TextStyle style = look.Text(look.style.selColor, CaptionSize);
+    const TextStyle style = look.Text(look.style->selColor, CaptionSize);
     const float width = surface.MeasureText(style, look.caption.c_str());
     const float height = surface.MeasureTextHeight(style, look.caption.c_str());
     const ViewSize& view = look.figure.fitted;
@@ -105,7 +105,7 @@ Json::Value CCrossShape::WriteGeometry(const Points& points, const ViewSize& vie
 
 void CCrossShape::Draw(const ShapeLook& look, PaintPass& pass) {
     for (const PointF& cross : look.Path()) {
-        DrawCross(cross, look.SelectedThickness(), look.style.selColor, pass.surface);
+        DrawCross(cross, look.SelectedThickness(), look.style->selColor, pass.surface);
     }
     if (!look.Path().empty() && !look.caption.empty()) {
         DrawCaption(look, pass.surface);
