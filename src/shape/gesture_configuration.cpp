@@ -72,8 +72,6 @@ Refused CGestureShape::LoadText(const Configuration& configuration) {
     return std::nullopt;
 }
 
-void CGestureShape::ReadWord(const char* /*option*/) {}
-
 bool CGestureShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
     if (WritesPlaces()) {
         LearnViewSize();

@@ -8,6 +8,17 @@ namespace rulecanvas {
 
 using platform::LockGuard;
 
+CVideoAnalyseShape* CGestureShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    LockGuard guard(lock);
+    if (state == Complete) {
+        const int level = LevelAt(PositionOf(event));
+        hitLevel = level == Miss ? hitLevel : level;
+    } else if (IsBusy()) {
+        hitLevel = Busy;
+    }
+    return this;
+}
+
 void CGestureShape::HandleLButtonDownEvent(const PointerEvent& event, int hitLevel) {
     Take(&event.record, [&]() -> Outcome {
         switch (state) {
@@ -72,39 +83,25 @@ void CGestureShape::OnButtonUp(const PointerEvent& event) {
     });
 }
 
-Outcome CGestureShape::ContinueDrawing(const PointerEvent& /*press*/) {
-    return {};
-}
-
-Outcome CGestureShape::ResumeDrawing(const PointerEvent& /*position*/) {
-    return {};
-}
-
-Outcome CGestureShape::FinishWaiting(const PointerEvent& /*release*/) {
-    return {};
-}
-
 Outcome CGestureShape::MoveTo(const PointerEvent& position) {
     FollowMouse(position.ClampedFrom(figure.anchorPoint), position.view);
     return {};
 }
 
-Outcome CGestureShape::EndMove(const PointerEvent& /*release*/) {
-    return Finish();
-}
-
-Outcome CGestureShape::AdjustTo(const PointerEvent& /*position*/) {
+Outcome CGestureShape::AdjustTo(const PointerEvent& position) {
+    DragPoint(figure.grabbedIndex, position.ClampedFrom(figure.anchorPoint), position.view);
     return {};
-}
-
-Outcome CGestureShape::EndAdjust(const PointerEvent& /*release*/) {
-    return Finish();
 }
 
 Outcome CGestureShape::Grab(ShapeState gesture) {
     adjustBoxShown = true;
     selected = true;
     return {gesture, effects::Grab};
+}
+
+Outcome CGestureShape::GrabWhole(const PointF& press) {
+    figure.anchorPoint = press;
+    return Grab(Moving);
 }
 
 Outcome CGestureShape::StartOver() {
@@ -159,10 +156,6 @@ bool CGestureShape::BuildDragPoints(int index, const PointF& current, Points& ou
     return dragged;
 }
 
-bool CGestureShape::DragPoint(int /*index*/, const PointF& /*to*/, const ClientRect& /*view*/) {
-    return false;
-}
-
 bool CGestureShape::FollowMouse(const PointF& position, const ClientRect& view) {
     if (!MovePoints(position.x - figure.anchorPoint.x, position.y - figure.anchorPoint.y, view)) {
         return false;
@@ -180,24 +173,12 @@ bool CGestureShape::MovePoints(float dx, float dy, const ClientRect& view) {
     return true;
 }
 
-void CGestureShape::Forget() {
-    figure.points.clear();
-}
-
 Claim CGestureShape::GetClaim() const {
     LockGuard guard(lock);
-    switch (state) {
-    case Deleted:
-        return Claim::Nowhere();
-    case Complete:
+    if (state == Complete) {
         return CompleteClaim();
-    default:
-        return BusyClaim();
     }
-}
-
-Claim CGestureShape::BusyClaim() const {
-    return Claim::Everywhere();
+    return IsBusy() ? Claim::Everywhere() : Claim::Nowhere();
 }
 
 Claim CGestureShape::CompleteClaim() const {
@@ -206,10 +187,6 @@ Claim CGestureShape::CompleteClaim() const {
 
 bool CGestureShape::IsShownIn(ViewID view) const {
     return visible && view == GetViewId() && state != Deleted;
-}
-
-bool CGestureShape::FitToPaint(const PaintPass& /*pass*/) {
-    return true;
 }
 
 void CGestureShape::OnDraw(PaintPass& pass) {
