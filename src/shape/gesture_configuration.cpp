@@ -14,19 +14,26 @@ constexpr int PathMaximum = 20;
 } // namespace
 
 Refused CGestureShape::SetVideoAnalyseShapeData(const Configuration& configuration) {
+    bool isStyled = false;
     try {
+        TakeStyle(configuration.styleOrMode);
+        isStyled = true;
         return Configure(configuration);
     } catch (const Json::Exception& inconvertible) {
-        return Refusal{"values of the documented types", inconvertible.what(), "$." + name};
+        return Refusal{"values of the documented types", inconvertible.what(),
+                       isStyled ? "$." + GeometryKey() : "option"};
+    }
+}
+
+void CGestureShape::TakeStyle(const char* option) {
+    if (TakesStyle()) {
+        LockGuard guard(lock);
+        ReadStyle(option, style);
+        maxPtNum = style.xArrowLine ? PathMaximum : maxPtNum;
     }
 }
 
 Refused CGestureShape::Configure(const Configuration& configuration) {
-    if (TakesStyle()) {
-        LockGuard guard(lock);
-        ReadStyle(configuration.styleOrMode, style);
-        maxPtNum = style.xArrowLine ? PathMaximum : maxPtNum;
-    }
     BeginConfiguration(configuration.shapeName);
     ReadWord(configuration.styleOrMode);
     if (!IsEmpty(configuration.shapeData)) {

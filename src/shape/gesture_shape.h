@@ -161,6 +161,7 @@ class CGestureShape : public CVideoAnalyseShape {
     void OnMouseMove(const PointerEvent& event);
     void OnButtonUp(const PointerEvent& event);
 
+    void TakeStyle(const char* option);
     Refused Configure(const Configuration& configuration);
     void BeginConfiguration(const char* shapeName);
     Refused LoadText(const Configuration& configuration);
