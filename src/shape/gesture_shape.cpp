@@ -1,7 +1,5 @@
 #include "shape/gesture_shape.h"
 
-#include "geometry/hit_tests.h"
-
 #include <algorithm>
 
 namespace rulecanvas {
@@ -157,11 +155,10 @@ bool CGestureShape::BuildDragPoints(int index, const PointF& current, Points& ou
 }
 
 bool CGestureShape::FollowMouse(const PointF& position, const ClientRect& view) {
-    if (!MovePoints(position.x - figure.anchorPoint.x, position.y - figure.anchorPoint.y, view)) {
-        return false;
-    }
-    figure.anchorPoint = position;
-    return true;
+    const PointF& from = figure.anchorPoint;
+    const bool moved = MovePoints(position.x - from.x, position.y - from.y, view);
+    figure.anchorPoint = moved ? position : from;
+    return moved;
 }
 
 bool CGestureShape::MovePoints(float dx, float dy, const ClientRect& view) {
@@ -179,14 +176,6 @@ Claim CGestureShape::GetClaim() const {
         return CompleteClaim();
     }
     return IsBusy() ? Claim::Everywhere() : Claim::Nowhere();
-}
-
-Claim CGestureShape::CompleteClaim() const {
-    return Claim::Around(figure.points, HitReach, true);
-}
-
-bool CGestureShape::IsShownIn(ViewID view) const {
-    return visible && view == GetViewId() && state != Deleted;
 }
 
 void CGestureShape::OnDraw(PaintPass& pass) {

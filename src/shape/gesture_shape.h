@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/hit_tests.h"
 #include "shape/claim.h"
 #include "shape/configuration.h"
 #include "shape/json_text.h"
@@ -91,7 +92,7 @@ class CGestureShape : public CVideoAnalyseShape {
     // A paint.
 
     /// Whether a paint of the view shows the shape.
-    virtual bool IsShownIn(ViewID view) const;
+    virtual bool IsShownIn(ViewID view) const { return visible && view == GetViewId() && state != Deleted; }
     /// With the lock held, before the figure is copied. False: it needs the painted view's rectangle, which the pass has
     /// not asked for yet.
     virtual bool FitToPaint(const PaintPass& /*pass*/) { return true; }
@@ -104,7 +105,7 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Whether the shape claims every left press, for the gesture that it is in or waits for.
     virtual bool IsBusy() const { return state != Deleted && state != Complete; }
     /// Where the finished figure may answer.
-    virtual Claim CompleteClaim() const;
+    virtual Claim CompleteClaim() const { return Claim::Around(figure.points, HitReach, true); }
 
     void Dispose() override;
     virtual void TellState(int previousState, int newState);
