@@ -13,7 +13,7 @@ namespace rulecanvas {
 struct Refusal {
     std::string expected;
     std::string found;
-    /// "$" is the configuration text, "$.gate[2]" a part of it, "type" and "option" are the other texts of the call.
+    /// "$" is the configuration text, "$.gate" a part of it, "type" and "option" are the other texts of the call.
     std::string place;
 };
 
@@ -40,10 +40,7 @@ struct Loading {
     /// Whether paints show the shape from now on.
     bool isDrawn = true;
 
-    Refusal Refuse(const std::string& expected, const std::string& detail = "") const;
+    Refusal Refuse(const std::string& expected) const;
 };
-
-/// An array's or object's count of elements, or a word for another value; for people.
-std::string Described(const Json::Value& value);
 
 } // namespace rulecanvas
