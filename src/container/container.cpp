@@ -1,7 +1,7 @@
 #include "container/container.h"
 
 #include "container/container_registry.h"
-#include "shape/debug_trace.h"
+#include "platform/trace.h"
 #include "shape/text.h"
 
 namespace rulecanvas {

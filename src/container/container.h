@@ -95,6 +95,8 @@ class CVideoAnalyseContainer final : public IShapeContainer {
         bool Exists() const { return shape != nullptr && !shape->IsRetired(); }
     };
 
+    template <class Operation>
+    bool Apply(ShapeID id, Operation operation);
     ShapePtr DeepFind(ShapeID id) const;
     ShapePtr FindParent(ShapeID id) const;
 

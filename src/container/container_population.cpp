@@ -2,7 +2,6 @@
 
 #include "container/container.h"
 #include "platform/trace.h"
-#include "shape/debug_trace.h"
 #include "shape/shape_factory.h"
 #include "shape/text.h"
 

@@ -4,6 +4,16 @@
 
 namespace rulecanvas {
 
+/// Whether there is such a shape.
+template <class Operation>
+bool CVideoAnalyseContainer::Apply(ShapeID id, Operation operation) {
+    const ShapePtr shape = DeepFind(id);
+    if (shape != nullptr) {
+        operation(*shape);
+    }
+    return shape != nullptr;
+}
+
 bool CVideoAnalyseContainer::Enable(bool enable) {
     enabled = enable;
     return true;
@@ -33,11 +43,7 @@ bool CVideoAnalyseContainer::GetShapeConfig(ShapeID id, char* buffer, int size) 
 }
 
 bool CVideoAnalyseContainer::EnableShape(ShapeID id, bool enable) {
-    const ShapePtr shape = DeepFind(id);
-    if (shape != nullptr) {
-        shape->EnableShape(enable);
-    }
-    return shape != nullptr;
+    return Apply(id, [&](CVideoAnalyseShape& shape) { shape.EnableShape(enable); });
 }
 
 bool CVideoAnalyseContainer::RedrawShape(ShapeID id) {
@@ -66,31 +72,19 @@ void CVideoAnalyseContainer::SetShowName(ShapeID id, const char* text) {
 }
 
 void CVideoAnalyseContainer::ShowShape(ShapeID id, bool show) {
-    if (const ShapePtr shape = DeepFind(id)) {
-        shape->ShowShape(show);
-    }
+    Apply(id, [&](CVideoAnalyseShape& shape) { shape.ShowShape(show); });
 }
 
 void CVideoAnalyseContainer::ShowAdjustBox(ShapeID id, bool show) {
-    if (const ShapePtr shape = DeepFind(id)) {
-        shape->SetAdjustBoxShow(show);
-    }
+    Apply(id, [&](CVideoAnalyseShape& shape) { shape.SetAdjustBoxShow(show); });
 }
 
 bool CVideoAnalyseContainer::SetShapeColor(ShapeID id, int red, int green, int blue, bool selectedColour) {
-    const ShapePtr shape = DeepFind(id);
-    if (shape != nullptr) {
-        shape->SetShapeColor(red, green, blue, selectedColour);
-    }
-    return shape != nullptr;
+    return Apply(id, [&](CVideoAnalyseShape& shape) { shape.SetShapeColor(red, green, blue, selectedColour); });
 }
 
 bool CVideoAnalyseContainer::SetShapeMaxPtNum(ShapeID id, int maximum, int minimum) {
-    const ShapePtr shape = DeepFind(id);
-    if (shape != nullptr) {
-        shape->SetMaxPtNum(maximum, minimum);
-    }
-    return shape != nullptr;
+    return Apply(id, [&](CVideoAnalyseShape& shape) { shape.SetMaxPtNum(maximum, minimum); });
 }
 
 ShapePtr CVideoAnalyseContainer::DeepFind(ShapeID id) const {

@@ -1,5 +1,7 @@
 #include "container/handler.h"
 
+#include "shape/types.h"
+
 #include <new>
 
 namespace rulecanvas {
@@ -27,10 +29,8 @@ uintptr_t RULECANVAS_THISCALL Invoke(ContainerHandler* self, uintptr_t first, ui
 }
 
 Bool32 RULECANVAS_THISCALL Equals(const ContainerHandler* self, const ContainerHandler* other) {
-    return other != nullptr && other->table->kind(other) == BoundMember && other->target == self->target &&
-                   other->method == self->method
-               ? 1
-               : 0;
+    return ToBool32(other != nullptr && other->table->kind(other) == BoundMember && other->target == self->target &&
+                    other->method == self->method);
 }
 
 const ContainerHandlerTable Table{&Destroy, &Kind, &Invoke, &Equals, &Clone};

@@ -15,32 +15,23 @@ void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
     }
     switch (event.code) {
     case RULECANVAS_MOUSE_LEFT_DOWN:
-        DispatchLeftDown(event);
-        break;
+        return DispatchLeftDown(event);
     case RULECANVAS_MOUSE_LEFT_UP:
-        Feed(MouseListenerKind::ButtonUp, event);
-        break;
+        return Feed(MouseListenerKind::ButtonUp, event);
     case RULECANVAS_MOUSE_MOVED:
-        DispatchMove(event);
-        break;
+        return DispatchMove(event);
     case RULECANVAS_MOUSE_RIGHT_DOWN:
-        DispatchRightDown(event, &CVideoAnalyseShape::HitTestRButtonDown);
-        break;
+        return DispatchRightDown(event, &CVideoAnalyseShape::HitTestRButtonDown);
     case RULECANVAS_MOUSE_RIGHT_UP:
-        Feed(MouseListenerKind::RightButtonUp, event);
-        break;
+        return Feed(MouseListenerKind::RightButtonUp, event);
     case RULECANVAS_MOUSE_MOVED_EVENT:
-        Feed(MouseListenerKind::MouseMoved, event);
-        break;
+        return Feed(MouseListenerKind::MouseMoved, event);
     case RULECANVAS_MOUSE_CURSOR_QUERY:
-        DispatchCursorQuery(event);
-        break;
+        return DispatchCursorQuery(event);
     case RULECANVAS_MOUSE_ALT_RIGHT_DOWN:
-        DispatchRightDown(event, &CVideoAnalyseShape::HitTestAltRButtonEvent);
-        break;
+        return DispatchRightDown(event, &CVideoAnalyseShape::HitTestAltRButtonEvent);
     case RULECANVAS_MOUSE_KEY_DOWN:
-        DispatchKey(event);
-        break;
+        return DispatchKey(event);
     default:
         break;
     }

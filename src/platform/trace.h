@@ -17,4 +17,7 @@ void SetTraceSink(TraceSink sink);
 /// Tells one refusal, without a line feed.
 void Trace(const std::string& line);
 
+/// Where rare calls say that they happened. That goes nowhere here; a build may route it to a log.
+inline void DebugTrace(const char* /*text*/) {}
+
 } // namespace rulecanvas

@@ -1,11 +1,9 @@
 #include "shape/configuration.h"
 
 namespace rulecanvas {
+namespace {
 
-Refusal Loading::Refuse(const std::string& expected, const std::string& detail) const {
-    return Refusal{expected, Described(geometry), place + detail};
-}
-
+/// An array's or object's count of elements, or a word for another value.
 std::string Described(const Json::Value& value) {
     const std::string count = std::to_string(value.size()) + (value.size() == 1 ? " element" : " elements");
     switch (value.type()) {
@@ -22,6 +20,12 @@ std::string Described(const Json::Value& value) {
     default:
         return "a number";
     }
+}
+
+} // namespace
+
+Refusal Loading::Refuse(const std::string& expected) const {
+    return Refusal{expected, Described(geometry), place};
 }
 
 } // namespace rulecanvas

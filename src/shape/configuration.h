@@ -1,13 +1,23 @@
 #pragma once
 
-#include "shape/refusal.h"
 #include "shape/types.h"
 
 #include <json/value.h>
 
 #include <optional>
+#include <string>
 
 namespace rulecanvas {
+
+/// Why a configuration is not taken: what should stand there, what does, and where.
+struct Refusal {
+    std::string expected;
+    std::string found;
+    /// "$" is the configuration text, "$.gate" a part of it, "type" and "option" are the other texts of the call.
+    std::string place;
+};
+
+using Refused = std::optional<Refusal>;
 
 /// What a shape is made of. Each text may be null.
 struct Configuration {
@@ -30,12 +40,7 @@ struct Loading {
     /// Whether paints show the shape from now on.
     bool isDrawn = true;
 
-    Refusal Refuse(const std::string& expected, const std::string& detail = "") const;
+    Refusal Refuse(const std::string& expected) const;
 };
-
-using Refused = std::optional<Refusal>;
-
-/// An array's or object's count of elements, or a word for another value; for people.
-std::string Described(const Json::Value& value);
 
 } // namespace rulecanvas

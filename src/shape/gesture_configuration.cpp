@@ -14,20 +14,27 @@ constexpr int PathMaximum = 20;
 } // namespace
 
 Refused CGestureShape::SetVideoAnalyseShapeData(const Configuration& configuration) {
+    bool isStyled = false;
     try {
+        TakeStyle(configuration.styleOrMode);
+        isStyled = true;
         return Configure(configuration);
     } catch (const Json::Exception& inconvertible) {
         return Refusal{"values of the documented types",
-                       std::string("one that cannot be converted (") + inconvertible.what() + ")", "$." + name};
+                       std::string("one that cannot be converted (") + inconvertible.what() + ")",
+                       isStyled ? "$." + GeometryKey() : "option"};
+    }
+}
+
+void CGestureShape::TakeStyle(const char* option) {
+    if (TakesStyle()) {
+        LockGuard guard(lock);
+        ChangeStyle([&](ShapeStyle& changed) { ReadStyle(option, changed); });
+        maxPtNum = style->xArrowLine ? PathMaximum : maxPtNum;
     }
 }
 
 Refused CGestureShape::Configure(const Configuration& configuration) {
-    if (TakesStyle()) {
-        LockGuard guard(lock);
-        ChangeStyle([&](ShapeStyle& changed) { ReadStyle(configuration.styleOrMode, changed); });
-        maxPtNum = style->xArrowLine ? PathMaximum : maxPtNum;
-    }
     BeginConfiguration(configuration.shapeName);
     ReadWord(configuration.styleOrMode);
     if (!IsEmpty(configuration.shapeData)) {
@@ -72,8 +79,6 @@ Refused CGestureShape::LoadText(const Configuration& configuration) {
     }
     return std::nullopt;
 }
-
-void CGestureShape::ReadWord(const char* /*option*/) {}
 
 bool CGestureShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
     if (WritesPlaces()) {

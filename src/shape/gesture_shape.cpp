@@ -1,12 +1,21 @@
 #include "shape/gesture_shape.h"
 
-#include "geometry/hit_tests.h"
-
 #include <algorithm>
 
 namespace rulecanvas {
 
 using platform::LockGuard;
+
+CVideoAnalyseShape* CGestureShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
+    LockGuard guard(lock);
+    if (state == Complete) {
+        const int level = LevelAt(PositionOf(event));
+        hitLevel = level == Miss ? hitLevel : level;
+    } else if (IsBusy()) {
+        hitLevel = Busy;
+    }
+    return this;
+}
 
 void CGestureShape::HandleLButtonDownEvent(const PointerEvent& event, int hitLevel) {
     Take(&event.record, [&]() -> Outcome {
@@ -72,39 +81,25 @@ void CGestureShape::OnButtonUp(const PointerEvent& event) {
     });
 }
 
-Outcome CGestureShape::ContinueDrawing(const PointerEvent& /*press*/) {
-    return {};
-}
-
-Outcome CGestureShape::ResumeDrawing(const PointerEvent& /*position*/) {
-    return {};
-}
-
-Outcome CGestureShape::FinishWaiting(const PointerEvent& /*release*/) {
-    return {};
-}
-
 Outcome CGestureShape::MoveTo(const PointerEvent& position) {
     FollowMouse(position.ClampedFrom(figure.anchorPoint), position.view);
     return {};
 }
 
-Outcome CGestureShape::EndMove(const PointerEvent& /*release*/) {
-    return Finish();
-}
-
-Outcome CGestureShape::AdjustTo(const PointerEvent& /*position*/) {
+Outcome CGestureShape::AdjustTo(const PointerEvent& position) {
+    DragPoint(figure.grabbedIndex, position.ClampedFrom(figure.anchorPoint), position.view);
     return {};
-}
-
-Outcome CGestureShape::EndAdjust(const PointerEvent& /*release*/) {
-    return Finish();
 }
 
 Outcome CGestureShape::Grab(ShapeState gesture) {
     adjustBoxShown = true;
     selected = true;
     return {gesture, effects::Grab};
+}
+
+Outcome CGestureShape::GrabWhole(const PointF& press) {
+    figure.anchorPoint = press;
+    return Grab(Moving);
 }
 
 Outcome CGestureShape::StartOver() {
@@ -159,16 +154,11 @@ bool CGestureShape::BuildDragPoints(int index, const PointF& current, Points& ou
     return dragged;
 }
 
-bool CGestureShape::DragPoint(int /*index*/, const PointF& /*to*/, const ClientRect& /*view*/) {
-    return false;
-}
-
 bool CGestureShape::FollowMouse(const PointF& position, const ClientRect& view) {
-    if (!MovePoints(position.x - figure.anchorPoint.x, position.y - figure.anchorPoint.y, view)) {
-        return false;
-    }
-    figure.anchorPoint = position;
-    return true;
+    const PointF& from = figure.anchorPoint;
+    const bool moved = MovePoints(position.x - from.x, position.y - from.y, view);
+    figure.anchorPoint = moved ? position : from;
+    return moved;
 }
 
 bool CGestureShape::MovePoints(float dx, float dy, const ClientRect& view) {
@@ -180,36 +170,12 @@ bool CGestureShape::MovePoints(float dx, float dy, const ClientRect& view) {
     return true;
 }
 
-void CGestureShape::Forget() {
-    figure.points.clear();
-}
-
 Claim CGestureShape::GetClaim() const {
     LockGuard guard(lock);
-    switch (state) {
-    case Deleted:
-        return Claim::Nowhere();
-    case Complete:
+    if (state == Complete) {
         return CompleteClaim();
-    default:
-        return BusyClaim();
     }
-}
-
-Claim CGestureShape::BusyClaim() const {
-    return Claim::Everywhere();
-}
-
-Claim CGestureShape::CompleteClaim() const {
-    return Claim::Around(figure.points, HitReach, true);
-}
-
-bool CGestureShape::IsShownIn(ViewID view) const {
-    return visible && view == GetViewId() && state != Deleted;
-}
-
-bool CGestureShape::FitToPaint(const PaintPass& /*pass*/) {
-    return true;
+    return IsBusy() ? Claim::Everywhere() : Claim::Nowhere();
 }
 
 void CGestureShape::OnDraw(PaintPass& pass) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "geometry/hit_tests.h"
 #include "shape/claim.h"
 #include "shape/configuration.h"
 #include "shape/json_text.h"
@@ -19,6 +20,7 @@ namespace rulecanvas {
 /// the step has left to say is then dropped, because the shape is no longer where the step left it.
 class CGestureShape : public CVideoAnalyseShape {
   public:
+    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     void HandleLButtonDownEvent(const PointerEvent& event, int hitLevel) override;
     Refused SetVideoAnalyseShapeData(const Configuration& configuration) override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
@@ -38,24 +40,27 @@ class CGestureShape : public CVideoAnalyseShape {
     /// The first press.
     virtual Outcome StartDrawing(const PointerEvent& press) = 0;
     /// A further press.
-    virtual Outcome ContinueDrawing(const PointerEvent& press);
+    virtual Outcome ContinueDrawing(const PointerEvent& /*press*/) { return {}; }
     virtual Outcome DrawTo(const PointerEvent& position) = 0;
     virtual Outcome EndDrawing(const PointerEvent& release) = 0;
     /// A move or release that a shape which waits to be drawn still listens to.
-    virtual Outcome ResumeDrawing(const PointerEvent& position);
-    virtual Outcome FinishWaiting(const PointerEvent& release);
+    virtual Outcome ResumeDrawing(const PointerEvent& /*position*/) { return {}; }
+    virtual Outcome FinishWaiting(const PointerEvent& /*release*/) { return {}; }
     /// A press that grabs the finished figure, or not.
     virtual Outcome StartEditing(const PointerEvent& press, int hitLevel) = 0;
     virtual Outcome MoveTo(const PointerEvent& position);
-    virtual Outcome EndMove(const PointerEvent& release);
+    virtual Outcome EndMove(const PointerEvent& /*release*/) { return Finish(); }
+    /// Drags the grabbed point.
     virtual Outcome AdjustTo(const PointerEvent& position);
-    virtual Outcome EndAdjust(const PointerEvent& release);
+    virtual Outcome EndAdjust(const PointerEvent& /*release*/) { return Finish(); }
 
     // What the steps lead to.
 
     Outcome Begin(ShapeState gesture) const { return {gesture, effects::Begin}; }
     /// Selects the finished shape and shows its handles.
     Outcome Grab(ShapeState gesture);
+    /// The same for a press that moves the whole figure.
+    Outcome GrabWhole(const PointF& press);
     Outcome Finish() const { return {Complete, effects::Finish}; }
     /// The figure goes, and the shape waits to be drawn anew.
     Outcome StartOver();
@@ -66,15 +71,15 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Moves all points or none.
     virtual bool MovePoints(float dx, float dy, const ClientRect& view);
     /// Drags one point, as far as the figure allows that. False: nothing changed.
-    virtual bool DragPoint(int index, const PointF& to, const ClientRect& view);
+    virtual bool DragPoint(int /*index*/, const PointF& /*to*/, const ClientRect& /*view*/) { return false; }
     /// What a cleared shape forgets.
-    virtual void Forget();
+    virtual void Forget() { figure.points.clear(); }
 
     // A configuration, read and written with the lock held.
 
     virtual bool TakesStyle() const { return true; }
     /// Takes over a mode word, or the option's other meaning.
-    virtual void ReadWord(const char* option);
+    virtual void ReadWord(const char* /*option*/) {}
     virtual std::string GeometryKey() const { return name; }
     /// Reads the figure and enters the state that it has.
     virtual Refused Load(Loading& loading) = 0;
@@ -87,17 +92,20 @@ class CGestureShape : public CVideoAnalyseShape {
     // A paint.
 
     /// Whether a paint of the view shows the shape.
-    virtual bool IsShownIn(ViewID view) const;
+    virtual bool IsShownIn(ViewID view) const { return visible && view == GetViewId() && state != Deleted; }
     /// With the lock held, before the figure is copied. False: it needs the painted view's rectangle, which the pass has
     /// not asked for yet.
-    virtual bool FitToPaint(const PaintPass& pass);
+    virtual bool FitToPaint(const PaintPass& /*pass*/) { return true; }
     virtual void Draw(const ShapeLook& look, PaintPass& pass) = 0;
 
-    // Claims, with the lock held.
+    // Presses, with the lock held.
 
-    virtual Claim BusyClaim() const;
-    /// Of the finished figure.
-    virtual Claim CompleteClaim() const;
+    /// How strongly the finished figure claims a left press there; `Miss` without a word of it.
+    virtual int LevelAt(const PointF& press) = 0;
+    /// Whether the shape claims every left press, for the gesture that it is in or waits for.
+    virtual bool IsBusy() const { return state != Deleted && state != Complete; }
+    /// Where the finished figure may answer.
+    virtual Claim CompleteClaim() const { return Claim::Around(figure.points, HitReach, true); }
 
     void Dispose() override;
     virtual void TellState(int previousState, int newState);
@@ -154,6 +162,7 @@ class CGestureShape : public CVideoAnalyseShape {
     void OnMouseMove(const PointerEvent& event);
     void OnButtonUp(const PointerEvent& event);
 
+    void TakeStyle(const char* option);
     Refused Configure(const Configuration& configuration);
     void BeginConfiguration(const char* shapeName);
     Refused LoadText(const Configuration& configuration);

@@ -23,17 +23,12 @@ std::unique_ptr<Json::CharReader> MakeReader() {
 }
 
 /// One reader for all, one thread at a time: reading a number switches the locale of the whole process for a moment.
-class Parser {
-  public:
-    bool Parse(const char* text, Json::Value& root, std::string* why) {
-        platform::LockGuard guard(mutex);
-        return reader->parse(text, text + std::strlen(text), &root, why);
-    }
-
-  private:
-    platform::ContainerMutex mutex;
-    const std::unique_ptr<Json::CharReader> reader = MakeReader();
-};
+bool Read(const char* text, Json::Value& root, std::string* why) {
+    static platform::ContainerMutex mutex;
+    static const std::unique_ptr<Json::CharReader> reader = MakeReader();
+    platform::LockGuard guard(mutex);
+    return reader->parse(text, text + std::strlen(text), &root, why);
+}
 
 std::unique_ptr<Json::StreamWriter> MakeWriter() {
     Json::StreamWriterBuilder builder;
@@ -42,30 +37,12 @@ std::unique_ptr<Json::StreamWriter> MakeWriter() {
     return std::unique_ptr<Json::StreamWriter>(builder.newStreamWriter());
 }
 
-/// One writer for all, one thread at a time: making one takes longer than using it.
-class Writer {
-  public:
-    std::string Write(const Json::Value& value) {
-        std::ostringstream out;
-        out.exceptions(std::ios::badbit); // a text that memory did not suffice for must not pass for a whole one
-        platform::LockGuard guard(mutex);
-        writer->write(value, &out);
-        out << '\n';
-        return out.str();
-    }
-
-  private:
-    platform::ContainerMutex mutex;
-    const std::unique_ptr<Json::StreamWriter> writer = MakeWriter();
-};
-
 } // namespace
 
 bool ParseJson(const char* text, Json::Value& root, std::string* why) {
-    static Parser parser;
     Json::Value parsed;
     try {
-        if (!parser.Parse(text, parsed, why)) {
+        if (!Read(text, parsed, why)) {
             return false;
         }
     } catch (const Json::Exception& nestedTooDeeply) {
@@ -78,9 +55,16 @@ bool ParseJson(const char* text, Json::Value& root, std::string* why) {
     return true;
 }
 
+/// One writer for all, one thread at a time: making one takes longer than using it.
 std::string WriteJson(const Json::Value& value) {
-    static Writer writer;
-    return writer.Write(value);
+    static platform::ContainerMutex mutex;
+    static const std::unique_ptr<Json::StreamWriter> writer = MakeWriter();
+    std::ostringstream out;
+    out.exceptions(std::ios::badbit); // a text that memory did not suffice for must not pass for a whole one
+    platform::LockGuard guard(mutex);
+    writer->write(value, &out);
+    out << '\n';
+    return out.str();
 }
 
 const Json::Value& MemberOf(const Json::Value& root, const std::string& key) {

@@ -52,36 +52,31 @@ void CArrowLineShape::HandleRButtonEvent(const ContainerMouseEvent& event, int h
     }
 }
 
-bool CArrowLineShape::MovePoints(float dx, float dy, const ClientRect& view) {
-    LearnViewSize(view); // as for a dragged point
-    Points before = OwnersHooks() == nullptr ? Points() : figure.points;
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call): other lines are bound to a horizon by their name, an arrow is not
-    if (!CGestureShape::MovePoints(dx, dy, view)) {
+/// Makes a change of the path, and takes it back when an owner refuses what came of it.
+template <class Change>
+bool CArrowLineShape::ChangeChecked(Change change) {
+    if (OwnersHooks() == nullptr) {
+        return change();
+    }
+    Points before = figure.points;
+    if (!change()) {
         return false;
     }
-    if (!PassesChecks()) {
+    if (!PassesValidation(figure.points, false) || !OwnersHooks()->GeometryCheckHook.Accepts(figure.points)) {
         figure.points = std::move(before);
         return false;
     }
     return true;
+}
+
+bool CArrowLineShape::MovePoints(float dx, float dy, const ClientRect& view) {
+    LearnViewSize(view); // as for a dragged point
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): other lines are bound to a horizon by their name, an arrow is not
+    return ChangeChecked([&] { return CGestureShape::MovePoints(dx, dy, view); });
 }
 
 bool CArrowLineShape::DragPoint(int index, const PointF& to, const ClientRect& view) {
-    Points before = OwnersHooks() == nullptr ? Points() : figure.points;
-    if (!CPathLineShape::DragPoint(index, to, view)) {
-        return false;
-    }
-    if (!PassesChecks()) {
-        figure.points = std::move(before);
-        return false;
-    }
-    return true;
-}
-
-/// What an owner says of the changed path; without one everything passes.
-bool CArrowLineShape::PassesChecks() const {
-    return OwnersHooks() == nullptr ||
-           (PassesValidation(figure.points, false) && OwnersHooks()->GeometryCheckHook.Accepts(figure.points));
+    return ChangeChecked([&] { return CPathLineShape::DragPoint(index, to, view); });
 }
 
 bool CArrowLineShape::FitToPaint(const PaintPass& pass) {

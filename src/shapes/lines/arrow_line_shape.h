@@ -19,7 +19,8 @@ class CArrowLineShape final : public CPathLineShape {
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
   private:
-    bool PassesChecks() const;
+    template <class Change>
+    bool ChangeChecked(Change change);
 };
 
 } // namespace rulecanvas

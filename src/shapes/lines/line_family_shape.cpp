@@ -23,14 +23,8 @@ bool ReachesAcrossTheView(const std::string& name) {
 
 } // namespace
 
-CVideoAnalyseShape* CLineFamilyShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    LockGuard guard(lock);
-    if (state == Complete) {
-        hitLevel = OnPath(figure.points, PositionOf(event)) ? OnOutline : Outside;
-    } else if (state != Deleted) {
-        hitLevel = Busy;
-    }
-    return this;
+int CLineFamilyShape::LevelAt(const PointF& press) {
+    return OnPath(figure.points, press) ? OnOutline : Outside;
 }
 
 void CLineFamilyShape::RemoveSubShape(ShapeID /*id*/) {
@@ -117,11 +111,7 @@ Outcome CLineFamilyShape::StartEditing(const PointerEvent& press, int hitLevel) 
     if (figure.grabbedIndex >= 0) {
         return Grab(Adjusting);
     }
-    if (hitLevel == OnOutline) {
-        figure.anchorPoint = press.position;
-        return Grab(Moving);
-    }
-    return {};
+    return hitLevel == OnOutline ? GrabWhole(press.position) : Outcome{};
 }
 
 /// A line that meets the border is let go.

@@ -13,7 +13,6 @@ namespace rulecanvas {
 /// A horizon is level and moves up and down only; a moved horizontal line does so too, and its ends cannot be dragged.
 class CLineFamilyShape : public CGestureShape {
   public:
-    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     void RemoveSubShape(ShapeID id) override;
     /// Takes exactly two points.
     void SetShapePoints(Points newPoints) override;
@@ -22,6 +21,7 @@ class CLineFamilyShape : public CGestureShape {
     Outcome StartDrawing(const PointerEvent& press) override;
     Outcome DrawTo(const PointerEvent& position) override;
     Outcome EndDrawing(const PointerEvent& release) override;
+    int LevelAt(const PointF& press) override;
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
     Outcome MoveTo(const PointerEvent& position) override;
     Outcome EndMove(const PointerEvent& release) override;

@@ -24,7 +24,7 @@ CVideoAnalyseShape* CBrokenLineShape::HitTestRButtonDown(const ContainerMouseEve
         return CClickPathShape::HitTestRButtonDown(event, hitLevel);
     }
     platform::LockGuard guard(lock);
-    const int level = LevelAt(PositionOf(event), true);
+    const int level = LevelOf(PositionOf(event), true);
     hitLevel = level == Outside ? hitLevel : level;
     return this;
 }

@@ -27,16 +27,6 @@ CClickPathShape::CClickPathShape() {
     figure.lastPoint = NoPoint;
 }
 
-CVideoAnalyseShape* CClickPathShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    LockGuard guard(lock);
-    if (state == Complete) {
-        hitLevel = LevelAt(PositionOf(event), HasInside());
-    } else if (state != Deleted) {
-        hitLevel = Busy;
-    }
-    return this;
-}
-
 CVideoAnalyseShape* CClickPathShape::HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
     const PointF press = PositionOf(event);
     if (state == Drawing) {
@@ -45,13 +35,13 @@ CVideoAnalyseShape* CClickPathShape::HitTestRButtonDown(const ContainerMouseEven
         }
     } else if (state == Complete && HandleRightPress(press) && enableRBtnDelete) {
         LockGuard guard(lock);
-        const int level = LevelAt(press, true);
+        const int level = LevelOf(press, true);
         hitLevel = level == Outside ? hitLevel : level;
     }
     return this;
 }
 
-int CClickPathShape::LevelAt(const PointF& press, bool hasInside) const {
+int CClickPathShape::LevelOf(const PointF& press, bool hasInside) const {
     if (IsOnOutline(press)) {
         return OnOutline;
     }
@@ -120,16 +110,7 @@ Outcome CClickPathShape::StartEditing(const PointerEvent& press, int /*hitLevel*
         figure.anchorPoint = figure.points[static_cast<size_t>(figure.grabbedIndex)];
         return Grab(Adjusting);
     }
-    if (InPolygon(figure.points, press.position)) {
-        figure.anchorPoint = press.position;
-        return Grab(Moving);
-    }
-    return {};
-}
-
-Outcome CClickPathShape::AdjustTo(const PointerEvent& position) {
-    DragPoint(figure.grabbedIndex, position.ClampedFrom(figure.anchorPoint), position.view);
-    return {};
+    return InPolygon(figure.points, press.position) ? GrabWhole(press.position) : Outcome{};
 }
 
 Outcome CClickPathShape::EndAdjust(const PointerEvent& release) {

@@ -14,7 +14,6 @@ class CClickPathShape : public CGestureShape {
   public:
     CClickPathShape();
 
-    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     /// Offers to finish a drawing, to act on an edge of the finished figure, or to delete it.
     CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
@@ -29,8 +28,8 @@ class CClickPathShape : public CGestureShape {
     Outcome ContinueDrawing(const PointerEvent& press) override;
     Outcome DrawTo(const PointerEvent& position) override;
     Outcome EndDrawing(const PointerEvent& release) override;
+    int LevelAt(const PointF& press) override { return LevelOf(press, HasInside()); }
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
-    Outcome AdjustTo(const PointerEvent& position) override;
     Outcome EndAdjust(const PointerEvent& release) override;
     bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
 
@@ -54,7 +53,7 @@ class CClickPathShape : public CGestureShape {
     Refused Load(Loading& loading) override;
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
-    int LevelAt(const PointF& press, bool hasInside) const;
+    int LevelOf(const PointF& press, bool hasInside) const;
     bool IsConvexEnough() const;
     bool IsOutsideLimit(const PointF& point) const;
 

@@ -30,23 +30,14 @@ bool InBox(const Points& corners, const PointF& p) {
 
 } // namespace
 
-CVideoAnalyseShape* COvalShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    const PointF press = PositionOf(event);
-    LockGuard guard(lock);
-    if (state == Waiting || state == Drawing) {
-        hitLevel = Busy;
-    } else if (state == Complete && HasCorners()) {
-        if (OnRing(figure.points, press)) {
-            hitLevel = OnOutline;
-        } else {
-            hitLevel = InBox(figure.points, press) ? Inside : Outside;
-        }
+int COvalShape::LevelAt(const PointF& press) {
+    if (!HasCorners()) {
+        return Miss;
     }
-    return this;
-}
-
-Claim COvalShape::BusyClaim() const {
-    return state == Moving || state == Adjusting ? Claim::Nowhere() : Claim::Everywhere();
+    if (OnRing(figure.points, press)) {
+        return OnOutline;
+    }
+    return InBox(figure.points, press) ? Inside : Outside;
 }
 
 Claim COvalShape::CompleteClaim() const {
@@ -109,11 +100,7 @@ Outcome COvalShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
         edgeFixPoint = corners[handle.keptCorner];
         return Grab(Adjusting);
     }
-    if (InBox(corners, press.position)) {
-        figure.anchorPoint = press.position;
-        return Grab(Moving);
-    }
-    return {};
+    return InBox(corners, press.position) ? GrabWhole(press.position) : Outcome{};
 }
 
 Outcome COvalShape::MoveTo(const PointerEvent& position) {

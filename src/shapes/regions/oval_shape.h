@@ -11,7 +11,6 @@ namespace rulecanvas {
 /// fixed corner while it is resized; `lastPoint` is where the mouse is while it is drawn, then where it was released.
 class COvalShape final : public CBoxShape {
   public:
-    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     /// Forgets the figure alone: an oval is cleared only on its way out, which ends its gesture too.
     void ClearShape() override;
     /// An oval stays as it is: to draw another one, the host makes a new shape.
@@ -34,7 +33,9 @@ class COvalShape final : public CBoxShape {
     bool TakesStyle() const override { return false; }
     std::string GeometryKey() const override;
     Refused Load(Loading& loading) override;
-    Claim BusyClaim() const override;
+    int LevelAt(const PointF& press) override;
+    /// A press during a drag of the finished oval is nothing to it.
+    bool IsBusy() const override { return state == Waiting || state == Drawing; }
     Claim CompleteClaim() const override;
     /// In every view. A hidden oval still shows as long as its last drag has an extent, so that the user sees what the
     /// mouse does.

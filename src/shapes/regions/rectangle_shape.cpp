@@ -30,35 +30,24 @@ CRectangleShape::CRectangleShape() {
     shapeType = RectangleType;
 }
 
-CVideoAnalyseShape* CRectangleShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    LockGuard guard(lock);
-    if (state == Complete) {
-        HitTestComplete(PositionOf(event), hitLevel);
-    } else if (state != Deleted) {
-        hitLevel = Busy;
-    }
-    return this;
-}
-
 CVideoAnalyseShape* CRectangleShape::HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
     if (!enableRBtnDelete) {
         return nullptr;
     }
     LockGuard guard(lock);
-    if (state == Complete) {
-        HitTestComplete(PositionOf(event), hitLevel);
-    }
+    const int level = state == Complete ? LevelAt(PositionOf(event)) : Miss;
+    hitLevel = level == Miss ? hitLevel : level;
     return this;
 }
 
-void CRectangleShape::HitTestComplete(const PointF& press, int& hitLevel) const {
+int CRectangleShape::LevelAt(const PointF& press) {
     if (OnRing(figure.points, press)) {
-        hitLevel = OnOutline;
-    } else if (InPolygon(figure.points, press)) {
-        hitLevel = Inside;
-    } else if (selected) {
-        hitLevel = Outside;
+        return OnOutline;
     }
+    if (InPolygon(figure.points, press)) {
+        return Inside;
+    }
+    return selected ? Outside : Miss;
 }
 
 /// Beside it only a selected rectangle answers, and selected shapes are asked everywhere.
@@ -99,16 +88,7 @@ Outcome CRectangleShape::StartEditing(const PointerEvent& press, int /*hitLevel*
         figure.anchorPoint = figure.points.at(OppositeCorner(figure.grabbedIndex));
         return Grab(Adjusting);
     }
-    if (InPolygon(figure.points, press.position)) {
-        figure.anchorPoint = press.position;
-        return Grab(Moving);
-    }
-    return {};
-}
-
-Outcome CRectangleShape::AdjustTo(const PointerEvent& position) {
-    DragPoint(figure.grabbedIndex, position.ClampedFrom(figure.anchorPoint), position.view);
-    return {};
+    return InPolygon(figure.points, press.position) ? GrabWhole(press.position) : Outcome{};
 }
 
 Outcome CRectangleShape::EndMove(const PointerEvent& release) {

@@ -12,7 +12,6 @@ class CRectangleShape : public CBoxShape {
   public:
     CRectangleShape();
 
-    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
     void SetShapePoints(Points newPoints) override;
@@ -30,13 +29,13 @@ class CRectangleShape : public CBoxShape {
     Outcome EndDrawing(const PointerEvent& release) override;
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
     Outcome EndMove(const PointerEvent& release) override;
-    Outcome AdjustTo(const PointerEvent& position) override;
     Outcome EndAdjust(const PointerEvent& release) override;
     /// The corners between the anchor and the dragged one.
     bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
 
     void ReadWord(const char* option) override;
     Refused Load(Loading& loading) override;
+    int LevelAt(const PointF& press) override;
     Claim CompleteClaim() const override;
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
@@ -44,7 +43,6 @@ class CRectangleShape : public CBoxShape {
     int minimumSide = 10;
 
   private:
-    void HitTestComplete(const PointF& press, int& hitLevel) const;
     bool CoversCropLimit(const PointF& topLeft, const PointF& bottomRight) const;
     bool DragCoversCropLimit(const PointF& release) const;
     bool MoveCoversCropLimit(const PointF& release) const;

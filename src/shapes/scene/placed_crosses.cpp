@@ -15,15 +15,9 @@ ClientRect HitBoxOf(const PointF& cross) {
 
 } // namespace
 
-CVideoAnalyseShape* CPlacedCrosses::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    platform::LockGuard guard(lock);
-    if (state == Complete) {
-        figure.grabbedIndex = CrossAt(PositionOf(event));
-        hitLevel = figure.grabbedIndex < 0 ? hitLevel : OnOutline;
-    } else if (state != Deleted) {
-        hitLevel = Busy;
-    }
-    return this;
+int CPlacedCrosses::LevelAt(const PointF& press) {
+    figure.grabbedIndex = CrossAt(press);
+    return figure.grabbedIndex < 0 ? Miss : OnOutline;
 }
 
 int CPlacedCrosses::CrossAt(const PointF& press) const {

@@ -12,7 +12,6 @@ namespace rulecanvas {
 /// does.
 class CPlacedCrosses : public CGestureShape {
   public:
-    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     bool AwaitsPaint() const override { return false; }
 
   protected:
@@ -36,6 +35,7 @@ class CPlacedCrosses : public CGestureShape {
     bool TakesStyle() const override { return false; }
     Refused Load(Loading& loading) override;
     CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
+    int LevelAt(const PointF& press) override;
     Claim CompleteClaim() const override;
 
     /// The cross under the last press, or null.

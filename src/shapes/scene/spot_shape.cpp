@@ -24,18 +24,13 @@ CSpotShape::CSpotShape() {
 }
 
 /// A press beside the spot is answered even while the spot is not selected: it then counts as one that deselects.
-CVideoAnalyseShape* CSpotShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
-    platform::LockGuard guard(lock);
-    if (state == Complete && Covers(PositionOf(event))) {
-        hitLevel = OnOutline;
-        selected = true;
-        MarkClaimStale();
-    } else if (state == Complete) {
-        hitLevel = Outside;
-    } else if (state != Deleted) {
-        hitLevel = Busy;
+int CSpotShape::LevelAt(const PointF& press) {
+    if (!Covers(press)) {
+        return Outside;
     }
-    return this;
+    selected = true;
+    MarkClaimStale();
+    return OnOutline;
 }
 
 bool CSpotShape::Covers(const PointF& press) const {
@@ -62,11 +57,7 @@ Outcome CSpotShape::StartDrawing(const PointerEvent& press) {
 }
 
 Outcome CSpotShape::StartEditing(const PointerEvent& press, int hitLevel) {
-    if (hitLevel != OnOutline) {
-        return {};
-    }
-    figure.anchorPoint = press.position;
-    return Grab(Moving);
+    return hitLevel == OnOutline ? GrabWhole(press.position) : Outcome{};
 }
 
 bool CSpotShape::DragPoint(int /*index*/, const PointF& to, const ClientRect& view) {

@@ -12,7 +12,6 @@ class CSpotShape final : public CGestureShape {
   public:
     CSpotShape();
 
-    CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     bool AwaitsPaint() const override { return false; }
 
   protected:
@@ -30,6 +29,7 @@ class CSpotShape final : public CGestureShape {
     Refused Load(Loading& loading) override;
     Json::Value WriteGeometry(const Points& points, const ViewSize& view) const override;
     CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
+    int LevelAt(const PointF& press) override;
     Claim CompleteClaim() const override;
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
