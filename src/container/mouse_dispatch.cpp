@@ -138,8 +138,15 @@ void CVideoAnalyseContainer::Feed(MouseListenerKind kind, const ContainerMouseEv
     if (walked->empty()) {
         return;
     }
-    const PointerEvent fed(event, GetClientRect(event.viewId));
-    listeners.Invoke(*walked, [&](CVideoAnalyseShape& shape) { shape.OnMouseListened(kind, fed); });
+    try {
+        const PointerEvent fed(event, GetClientRect(event.viewId));
+        listeners.Invoke(*walked, [&](CVideoAnalyseShape& shape) { shape.OnMouseListened(kind, fed); });
+    } catch (...) {
+        if (kind == MouseListenerKind::ButtonUp) { // a release that is lost must not leave anyone waiting for it
+            listeners.Invoke(*walked, [&](CVideoAnalyseShape& shape) { shape.GiveUpGesture(event.viewId); });
+        }
+        throw;
+    }
 }
 
 } // namespace rulecanvas

@@ -54,6 +54,12 @@ void CGestureShape::SpeakOne(Effect effect, const Committed& committed, const Co
     }
 }
 
+void CGestureShape::GiveUpGesture(ViewID view) noexcept {
+    if (view == GetViewId() && IsListening()) {
+        GiveUp(Committed{{}, state, life});
+    }
+}
+
 /// After an exception of the host, or without memory: the gesture is over, whatever was left to say.
 void CGestureShape::GiveUp(const Committed& committed) noexcept {
     {

@@ -32,6 +32,7 @@ class CGestureShape : public CVideoAnalyseShape {
     bool BuildDragPoints(int index, const PointF& current, Points& out) override;
     Claim GetClaim() const override;
     void OnMouseListened(MouseListenerKind kind, const PointerEvent& event) override;
+    void GiveUpGesture(ViewID view) noexcept override;
     void OnDraw(PaintPass& pass) override;
 
   protected:

@@ -74,6 +74,8 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     virtual Claim GetClaim() const = 0;
     /// An event of the mouse that the shape listens to.
     virtual void OnMouseListened(MouseListenerKind kind, const PointerEvent& event) = 0;
+    /// Ends a gesture in the view, whose release the shape will not hear of.
+    virtual void GiveUpGesture(ViewID view) noexcept = 0;
     /// The shape's turn in a paint of one view.
     virtual void OnDraw(PaintPass& pass) = 0;
 

@@ -21,7 +21,9 @@ What stands behind the three backticks decides:
   cpp                       compiles, after the samples before it in the same document
       statements                inside a function with the numbers x and y
       file=PATH                 is the text of that file
+      inside                    a file of the library itself, which may include others of the same document
   sh first-program          how the first program is built; "text first-program" is what it prints
+  html, js                  web/test/documents.test.mjs runs them; ts is made from sources that are compiled
   c, python, cmake, sh, text, or nothing    shown only
 """
 
@@ -32,7 +34,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-SHOWN_ONLY = {"c", "python", "cmake", "sh", "text", ""}
+SHOWN_ONLY = {"c", "python", "cmake", "sh", "text", "html", "js", "ts", ""}
 GRID_VIEW = "8191x8191"
 
 
@@ -201,12 +203,23 @@ def matrix(root, page, heading):
 # ---- code ----
 
 
+def inside_lines(root, sample):
+    """The text without what makes sense in a file of its own only, line by line, so that the numbers stay."""
+
+    def kept(line):
+        included = re.match(r'#include "(.*)"', line)
+        return line != "#pragma once" and (not included or (root / "src" / included[1]).exists())
+
+    return "".join((line if kept(line) else "") + "\n" for line in sample.text.splitlines())
+
+
 def code(root, document):
     source = ""
     for sample in samples_of(root, document):
         if sample.language != "cpp":
             continue
-        text = f'#line {sample.line + 1} "{sample.place.rpartition(":")[0]}"\n{sample.text}'
+        lines = inside_lines(root, sample) if "inside" in sample.flags else sample.text
+        text = f'#line {sample.line + 1} "{sample.place.rpartition(":")[0]}"\n{lines}'
         if "statements" in sample.flags:
             text = f"void SampleOfLine{sample.line}(float x, float y) {{\n(void)x;\n(void)y;\n{text}}}\n"
         source += text
