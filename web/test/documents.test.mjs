@@ -8,8 +8,10 @@ const samplesOf = (language) => [...text.matchAll(new RegExp("```" + language + 
 
 test("the first page of the guide shows a canvas", async ({ browser, address }) => {
     const [sample] = samplesOf("html");
-    const { page, complaints, close } = await openPage(browser, address, "");
-    await page.setContent(sample.replace(' src="camera.webm"', "")); // a reader has a clip of his own
+    const { page, complaints, close } = await openPage(browser, address, "test/view.html");
+    await page.waitForFunction("window.ready");
+    const here = sample.replace("./rulecanvas/", "/rulecanvas/").replace(' src="camera.webm"', ""); // a reader's own
+    await page.setContent(here);
     await page.waitForSelector("canvas");
     equal(complaints, [], "what the browser says");
     await close();
