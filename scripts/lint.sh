@@ -9,8 +9,8 @@ scripts/setup.sh build lint
 printf 'lint: [1/2] layout\n'
 git ls-files -z '*.h' '*.hpp' '*.cpp' | xargs -0 clang-format --dry-run --Werror
 
-printf 'lint: [2/2] clang-tidy, one file after the other\n'
+printf 'lint: [2/2] clang-tidy\n'
 cmake --preset native >/dev/null
 git ls-files -z 'src/*.cpp' 'tools/*.cpp' ':!*_windows.cpp' |
-    xargs -0 -n 4 clang-tidy -p build/native --quiet --extra-arg=-Wno-unknown-warning-option
+    xargs -0 -n 4 -P 2 clang-tidy -p build/native --quiet --extra-arg=-Wno-unknown-warning-option
 printf 'lint: clean\n'

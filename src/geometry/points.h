@@ -13,11 +13,11 @@ using Points = std::vector<PointF>;
 /// Points that someone else keeps, for the length of a call.
 class PointSpan {
   public:
-    PointSpan(const Points& points)
-        : first(points.data()), count(points.size()) {} // NOLINT(google-explicit-constructor)
+    // NOLINTNEXTLINE(google-explicit-constructor): a list of points is a span of them
+    PointSpan(const Points& points) : first(points.data()), count(points.size()) {}
     template <size_t length>
-    PointSpan(const std::array<PointF, length>& points) // NOLINT(google-explicit-constructor)
-        : first(points.data()), count(length) {}
+    // NOLINTNEXTLINE(google-explicit-constructor)
+    PointSpan(const std::array<PointF, length>& points) : first(points.data()), count(length) {}
 
     const PointF* begin() const { return first; }
     const PointF* end() const { return first + count; }

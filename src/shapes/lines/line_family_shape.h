@@ -20,7 +20,7 @@ class CLineFamilyShape : public CGestureShape {
   protected:
     Outcome StartDrawing(const PointerEvent& press) override;
     Outcome DrawTo(const PointerEvent& position) override;
-    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome EndDrawing(const PointerEvent& event) override;
     int LevelAt(const PointF& press) override;
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
     Outcome MoveTo(const PointerEvent& position) override;

@@ -26,7 +26,7 @@ class CRectangleShape : public CBoxShape {
   protected:
     Outcome StartDrawing(const PointerEvent& press) override;
     Outcome DrawTo(const PointerEvent& position) override;
-    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome EndDrawing(const PointerEvent& event) override;
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
     Outcome EndMove(const PointerEvent& release) override;
     Outcome EndAdjust(const PointerEvent& release) override;
