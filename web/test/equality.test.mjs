@@ -74,24 +74,31 @@ function playProgram([command, ...words]) {
     return false;
 }
 
+async function playStep(page, words) {
+    if (words[0] === "escape") {
+        await page.keyboard.press("Escape");
+    } else if (!(await page.evaluate(playProgram, words))) {
+        await playMouse(page, words[0], words.slice(1).map(Number));
+    }
+}
+
 async function playInBrowser({ browser, address }) {
     const { page, complaints, close } = await openPage(browser, address, "test/view.html");
     await page.waitForFunction("window.ready");
     const lines = [];
     const takeLog = async () => lines.push(...(await page.evaluate(() => window.log.splice(0))));
     for (const line of readFileSync(table, "utf8").split("\n")) {
-        const words = line.split(" ");
-        if (words[0] === "case") {
+        if (line.startsWith("case ")) {
             await page.evaluate("window.canvas?.destroy()");
             await takeLog();
             lines.push(line);
             await page.evaluate("start()");
-        } else if (words[0] === "escape") {
-            await page.keyboard.press("Escape");
-        } else if (line !== "" && !line.startsWith("#") && !(await page.evaluate(playProgram, words))) {
-            await playMouse(page, words[0], words.slice(1).map(Number));
+        } else if (line.startsWith(" ")) {
+            for (const step of line.split("|")) {
+                await playStep(page, step.trim().split(" "));
+                await takeLog();
+            }
         }
-        await takeLog();
     }
     await page.evaluate("window.canvas.destroy()");
     await takeLog();

@@ -47,7 +47,16 @@ class Player {
         container.Enable();
     }
 
-    void Play(const std::string& step) {
+    /// Steps with bars between them.
+    void Play(const std::string& steps) {
+        std::istringstream in(steps);
+        for (std::string step; std::getline(in, step, '|');) {
+            PlayStep(step);
+        }
+    }
+
+  private:
+    void PlayStep(const std::string& step) {
         std::istringstream words(step);
         std::string command;
         words >> command;
@@ -63,7 +72,6 @@ class Player {
         }
     }
 
-  private:
     void Add(std::istringstream& words) {
         Rule rule;
         words >> rule.type >> rule.name >> rule.option >> rule.configuration;

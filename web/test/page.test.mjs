@@ -1,7 +1,7 @@
 // The page as a person uses it: tools, help, undo, files, on a desktop and on a phone.
 import { mkdirSync, readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
-import { built, drag, equal, isTrue, openPage, test } from "./harness.mjs";
+import { at as points, built, drag, equal, isTrue, openPage, test } from "./harness.mjs";
 
 const pictures = join(built, "pictures");
 mkdirSync(pictures, { recursive: true });
@@ -36,11 +36,7 @@ test("the page draws a rule of every type and lists it", async (session) => {
         isTrue((await help(page)).length > 10 && !(await help(page)).startsWith("Choose"), `the help line for ${type}`);
         const drawing = await page.evaluate("ruleCanvas.drawing.facts.drawing");
         if (drawing === "path") {
-            for (const [dx, dy] of [
-                [0, 0],
-                [0.12, 0.02],
-                [0.1, 0.2],
-            ]) {
+            for (const [dx, dy] of points("0,0 0.12,0.02 0.1,0.2")) {
                 await page.mouse.click(...at(x + dx, y + dy));
             }
             await page.mouse.click(...at(x + 0.02, y + 0.15), { button: "right" });
@@ -126,11 +122,7 @@ test("the page on a phone", async (session) => {
     });
     equal(await page.evaluate("document.documentElement.scrollWidth"), 390, "the width that the page takes");
     await page.locator('[data-type="Polygon"]').tap();
-    for (const [x, y] of [
-        [0.1, 0.2],
-        [0.4, 0.15],
-        [0.3, 0.5],
-    ]) {
+    for (const [x, y] of points("0.1,0.2 0.4,0.15 0.3,0.5")) {
         await page.touchscreen.tap(...at(x, y));
     }
     isTrue((await help(page)).includes("hold the finger still"), "the help line for fingers");
