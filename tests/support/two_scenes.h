@@ -3,6 +3,7 @@
 #pragma once
 
 #include "container/container.h"
+#include "support/types.h"
 
 #include <functional>
 #include <string>
@@ -136,12 +137,8 @@ class TwoScenes {
     }
 
     void Add() {
-        static const char* const types[] = {"Rect",           "OvalShape",        "PixelCountShape", "LineShape",
-                                            "DashLineShape",  "XLineShape",       "ArrowLineShape",  "BrokenLine",
-                                            "VirablePolygon", "Polygon",          "CrossShape",      "BigCrossShape",
-                                            "SpotShape",      "VerticalLineShape"};
         static const char* const options[] = {"", "EnableRBtnDelete", "Convex", "2"};
-        const char* type = types[Pick(static_cast<int>(std::size(types)))];
+        const char* type = Types[Pick(static_cast<int>(std::size(Types)))].name;
         const char* option = options[Pick(static_cast<int>(std::size(options)))];
         const auto corner = [&] { return "[" + std::to_string(Pick(9000)) + "," + std::to_string(Pick(9000)) + "]"; };
         const std::string points = "[" + corner() + "," + corner() + "]";
