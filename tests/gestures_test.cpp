@@ -9,6 +9,7 @@ namespace {
 
 constexpr const char* Square = "100,100 200,100 200,200 100,200";
 constexpr const char* Hook = "100,100 200,100 200,200";
+constexpr const char* Five = "100,100 200,100 200,200 150,250 100,200";
 constexpr const char* Box = "100,100 200,200";
 constexpr const char* Level = "100,100 200,100";
 
@@ -80,6 +81,9 @@ TEST(Gestures, OnOvals) {
     const std::string oval = R"({"OvalShape":[[100,100],[200,180]]})";
     const std::string corners = "100,100 200,180";
     Check({
+        // A click goes on, by moves with the button up or without any; no oval is too narrow to be drawn.
+        {"OvalShape", "", "", "click 100 100 move 101 150 release 101 150", "on on 2>3 on", "100,100 101,150"},
+        {"OvalShape", "", "", "click 10 10 release 20 30", "on 1>3 on", "10,10 20,30"},
         // Outside the ellipse, but inside its rectangle; a step out of the view is refused.
         {"OvalShape", "", oval, "press 106 106 move 116.5 126.5 move 5 126.5 release 5 126.5", Moved,
          "110,120 210,200"},
@@ -118,6 +122,26 @@ TEST(Gestures, OnPathsThatAreDrawn) {
         {"Polygon", "", R"({"other":[[1,1]]})", "press 9 9", "on", ""},
         {"BrokenLine", "", "1,1", "press 9 9", "", ""},
     });
+}
+
+TEST(Gestures, OnPathsWithLimits) {
+    const std::string hook = " click 100 100 right 9 9 click 200 100 right 9 9 click 200 200 right 9 9";
+    const std::string more = " click 150 250 right 9 9";
+    const std::string most = " click 100 200 right 9 9";
+    const std::string end = " click 200 200 right 9 9 click 150 250 click 100 200 right 9 9";
+    for (const char* type : {"Polygon", "BrokenLine"}) {
+        Check({
+            // As many points as the host asks for are needed, and at least three.
+            {type, "", "", "limits 10 2" + hook, "on on on on 2>3 off", Hook},
+            {type, "", "", "limits 10 3" + hook, "on on on on 2>3 off", Hook},
+            {type, "", "", "limits 10 4" + hook + more, "on on on on on 2>3 off", "100,100 200,100 200,200 150,250"},
+            {type, "", "", "limits 10 5" + hook + more + most, "on on on on on on 2>3 off", Five},
+        });
+        for (const std::string maximum : {"-1", "0", "1", "2"}) { // below the count: it is never met
+            Check({{type, "", "", "click 100 100 click 200 100 limits " + maximum + " 4" + end,
+                    "on on on on on on 2>3 off", Five}});
+        }
+    }
 }
 
 constexpr const char* RemovedWhileMoved = "select on off 4>0";

@@ -23,28 +23,6 @@ TEST(Polygon, ThatItsClosingEdgeWouldCrossIsThrownAwayByTheRightButton) {
     EXPECT_EQ(host.Config(shape), Rule("10,10 60,10 60,60"));
 }
 
-TEST(Paths, NeedAsManyPointsAsTheHostAsksFor) {
-    for (const char* type : {"Polygon", "BrokenLine"}) {
-        for (const auto& [minimum, needed] : {std::make_pair(4, 4), std::make_pair(5, 5), std::make_pair(3, 3)}) {
-            ScenarioHost host(GridView, GridView);
-            const ShapeID shape = host.Add(type);
-            host.container.SetPointLimits(shape, 10, minimum);
-            int points = 0;
-            for (const PointF& corner :
-                 {PointF{100, 100}, PointF{200, 100}, PointF{250, 150}, PointF{200, 200}, PointF{100, 200}}) {
-                host.Click(corner.x, corner.y);
-                host.TakeLog();
-                host.RightPress(9, 9);
-                ++points;
-                if (!host.TakeLog().empty()) {
-                    break;
-                }
-            }
-            EXPECT_EQ(points, needed) << type;
-        }
-    }
-}
-
 TEST(Paths, AreDrawnOnTheSurface) {
     ScenarioHost host;
     const ShapeID polygon = host.Add("Polygon");
@@ -71,19 +49,6 @@ TEST(Paths, AreDrawnOnTheSurface) {
     host.container.SetPointLimits(line, 3, 3);
     host.Click(90, 80);
     EXPECT_EQ(host.Paint()[2], "caption \"way\" at (9,9)(90,9)(90,80) yellow clip 0,0,800,600");
-}
-
-TEST(Paths, GrowBeyondAMaximumThatTheyNeverMeet) {
-    for (const char* type : {"Polygon", "BrokenLine"}) {
-        for (const int maximum : {-1, 0, 1, 2}) {
-            ScenarioHost host(GridView, GridView);
-            const ShapeID shape = host.Add(type);
-            Act(host, "click 100 100 click 200 100");
-            host.container.SetPointLimits(shape, maximum, 4); // below the count
-            Act(host, "click 200 200 right 9 9 click 150 250 click 100 200 right 9 9");
-            EXPECT_EQ(host.Config(shape), Rule("100,100 200,100 200,200 150,250 100,200")) << type << maximum;
-        }
-    }
 }
 
 TEST(Polygon, PointsAcrossItsFirstEdge) {
