@@ -28,13 +28,12 @@ async function playMouse(page, command, at) {
     }
 }
 
-/** Steps that a program takes; runs in the page. */
+/** Steps that a program takes; runs in the page. Whether it was one of them. */
 function playProgram([command, ...words]) {
     const { canvas, log } = window;
     const rule = canvas.rule(words[0]);
-    switch (command) {
-        case "add": {
-            const [type, name, option, configuration] = words;
+    const steps = {
+        add([type, name, option, configuration]) {
             canvas.add({
                 type,
                 name,
@@ -42,36 +41,21 @@ function playProgram([command, ...words]) {
                 ...(option !== "-" && { option: option.startsWith("{") ? JSON.parse(option) : option }),
                 ...(configuration && { configuration: JSON.parse(configuration), selected: true }),
             });
-            return true;
-        }
-        case "config": {
-            const text = rule.configuration === null ? "" : JSON.stringify(rule.configuration);
-            log.push(`config ${words[0]} ${text}`);
-            return true;
-        }
-        case "direction":
-            rule.direction = Number(words[1]);
-            return true;
-        case "limits":
-            rule.pointLimits = { maximum: Number(words[1]), minimum: Number(words[2]) };
-            return true;
-        case "caption":
-            rule.caption = words.slice(1).join(" ");
-            return true;
-        case "select":
-            rule.select();
-            return true;
-        case "remove":
-            rule.remove();
-            return true;
-        case "reload": {
+        },
+        config: () => log.push(`config ${rule.name} ${rule.configuration ? JSON.stringify(rule.configuration) : ""}`),
+        direction: () => (rule.direction = Number(words[1])),
+        limits: () => (rule.pointLimits = { maximum: Number(words[1]), minimum: Number(words[2]) }),
+        caption: () => (rule.caption = words.slice(1).join(" ")),
+        select: () => rule.select(),
+        remove: () => rule.remove(),
+        reload() {
             const saved = canvas.saveText();
             canvas.clear();
             canvas.load(saved);
-            return true;
-        }
-    }
-    return false;
+        },
+    };
+    steps[command]?.(words);
+    return command in steps;
 }
 
 async function playStep(page, words) {
