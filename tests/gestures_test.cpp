@@ -82,7 +82,7 @@ TEST(Gestures, OnOvals) {
     const std::string corners = "100,100 200,180";
     Check({
         // A click goes on, by moves with the button up or without any; no oval is too narrow to be drawn.
-        {"OvalShape", "", "", "click 100 100 move 101 150 release 101 150", "on on 2>3 on", "100,100 101,150"},
+        {"OvalShape", "", "", "click 100 100 move 101 150 release 101 150", "on redraw on 2>3 on", "100,100 101,150"},
         {"OvalShape", "", "", "click 10 10 release 20 30", "on 1>3 on", "10,10 20,30"},
         // Outside the ellipse, but inside its rectangle; a step out of the view is refused.
         {"OvalShape", "", oval, "press 106 106 move 116.5 126.5 move 5 126.5 release 5 126.5", Moved,

@@ -48,10 +48,8 @@ void Act(ScenarioHost& host, const std::string& words) {
 std::string Heard(ScenarioHost& host) {
     std::string heard;
     for (const std::string& entry : host.TakeLog()) {
-        if (entry != "redraw") {
-            const std::string word = entry == "select rule" ? "select" : entry.substr(entry.rfind(' ') + 1);
-            heard += (heard.empty() ? "" : " ") + word;
-        }
+        const std::string word = entry == "select rule" ? "select" : entry.substr(entry.rfind(' ') + 1);
+        heard += (heard.empty() ? "" : " ") + word;
     }
     return heard;
 }

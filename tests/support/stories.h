@@ -22,8 +22,8 @@ std::string ReadBack(ScenarioHost& host, ShapeID shape);
 /// "limits 4 3" for the shape that is selected.
 void Act(ScenarioHost& host, const std::string& words);
 
-/// What the host has heard since the last time, redraws aside: "select on 4>3 off" is a selection, the capture, a state
-/// and the capture again.
+/// What the host has heard since the last time: "select on redraw 4>3 off" is a selection, the capture, a redraw, a
+/// state and the capture again.
 std::string Heard(ScenarioHost& host);
 
 constexpr const char* Moved = "select on 4>3 off";

@@ -203,26 +203,21 @@ viewTest("the library's own functions are within reach", {}, async (page) => {
 });
 
 viewTest("what is drawn in parts is what is drawn as a whole", { deviceScaleFactor: 1.5 }, async (page) => {
-    const style = { thickness: 3, unselectedThickness: 1 };
-    await add(page, { type: "Rect", name: "cells", style: { mosaic: 16 }, points: at("60,60 420,300") });
-    await add(page, {
-        type: "Polygon",
-        name: "field",
-        caption: "Field",
-        style,
-        direction: 2,
-        points: at("100,100 500,120 450,400 150,380"),
-    });
-    await add(page, {
-        type: "XLineShape",
-        name: "wire",
-        caption: "Wire",
-        direction: 2,
-        points: at("50,250 400,230 700,300"),
-    });
-    await add(page, { type: "OvalShape", name: "tree", caption: "Tree", points: at("300,200 600,350") });
-    await add(page, { type: "SpotShape", name: "lamp", caption: "Lamp", mode: "solid", points: at("200,200") });
-    await add(page, { type: "BigCrossShape", name: "aim", points: at("350,150 250,330") });
+    for (const [type, name, points, more] of [
+        ["Rect", "cells", "60,60 420,300", { style: { mosaic: 16 } }],
+        [
+            "Polygon",
+            "field",
+            "100,100 500,120 450,400 150,380",
+            { direction: 2, style: { thickness: 3, unselectedThickness: 1 } },
+        ],
+        ["XLineShape", "wire", "50,250 400,230 700,300", { direction: 2 }],
+        ["OvalShape", "tree", "300,200 600,350"],
+        ["SpotShape", "lamp", "200,200", { mode: "solid" }],
+        ["BigCrossShape", "aim", "350,150 250,330"],
+    ]) {
+        await add(page, { type, name, caption: name, points: at(points), ...more });
+    }
     /** Canvas pixels that a whole drawing changes by more than the smoothing of a cut line does, and those that differ from the last call's. */
     const compare = () =>
         page.evaluate(async () => {

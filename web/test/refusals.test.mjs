@@ -105,11 +105,11 @@ viewTest("a rules file keeps what this version does not know, in place", {}, asy
         picture: { width: 800, height: 600 },
         rules: [
             {
-                note: "first",
+                note: "a",
                 type: "SpotShape",
                 name: "lamp",
                 configuration: { lamp: [[4096, 4096]], radius: 9 },
-                schedule: ["night"],
+                more: [1],
             },
             {
                 type: "OvalShape",
@@ -120,13 +120,7 @@ viewTest("a rules file keeps what this version does not know, in place", {}, asy
                 view: 0,
                 locked: true,
             },
-            {
-                type: "Rect",
-                name: "elsewhere",
-                configuration: { elsewhere: at("1433,1775 3481,3413") },
-                view: 7,
-                enabled: false,
-            },
+            { type: "Rect", name: "far", configuration: { far: at("1433,1775 3481,3413") }, view: 7, enabled: false },
             { type: "Polygon", name: "later", configuration: null },
         ],
         last: [true, null],
