@@ -2,6 +2,7 @@
 
 #include "container/container.h"
 #include "rulecanvas/surface.hpp"
+#include "support/types.h"
 
 #include <gtest/gtest.h>
 
@@ -75,33 +76,14 @@ class Scene {
   private:
     static void RULECANVAS_THISCALL ReportRect(void* self, ViewID /*view*/, ClientRect* out) {
         ++static_cast<Scene*>(self)->questions;
-        *out = ClientRect{0, 0, 8191, 8191};
+        *out = ClientRect{0, 0, test::GridView, test::GridView};
     }
 
     size_t questions = 0;
 };
 
-struct Type {
-    const char* name;
-    const char* config;
-};
-
-const Type Types[] = {
-    {"Rect", R"({"rule":[[100,100],[200,200]]})"},
-    {"OvalShape", R"({"OvalShape":[[100,100],[200,200]]})"},
-    {"PixelCountShape", R"({"rule":[8,8]})"},
-    {"LineShape", R"({"rule":[[100,100],[200,200]]})"},
-    {"XLineShape", R"({"rule":[[100,100],[200,200],[300,100]]})"},
-    {"ArrowLineShape", R"({"rule":[[100,100],[200,200]]})"},
-    {"BrokenLine", R"({"rule":[[100,100],[200,100],[200,200]]})"},
-    {"Polygon", R"({"rule":[[100,100],[200,100],[200,200]]})"},
-    {"CrossShape", R"({"rule":[[100,100]]})"},
-    {"BigCrossShape", R"({"rule":[[0,99],[99],[0,199],[199]]})"},
-    {"SpotShape", R"({"rule":[[100,100]]})"},
-};
-
 TEST(Cost, OfAPaintIsOneQuestionOneLockAFigureAndNoMemory) {
-    for (const Type& type : Types) {
+    for (const test::Type& type : test::Types) {
         Scene scene(type.name, type.config);
         Surface surface;
         const auto paint = [&](CVideoAnalyseContainer& container) { container.OnDraw(0, surface); };
@@ -115,7 +97,7 @@ TEST(Cost, OfAPaintIsOneQuestionOneLockAFigureAndNoMemory) {
 }
 
 TEST(Cost, OfADragStepIsOneQuestionTwoLocksAndNoMemory) {
-    for (const Type& type : Types) {
+    for (const test::Type& type : test::Types) {
         Scene scene(type.name, type.config);
         Surface surface;
         scene.container.OnDraw(0, surface);
@@ -124,7 +106,7 @@ TEST(Cost, OfADragStepIsOneQuestionTwoLocksAndNoMemory) {
                 container.OnMouseEvent({code, 0, 0, x, y, 0, 0});
             });
         };
-        for (const float grab : {100.0F, 150.0F}) { // a corner or the point, and the line or the inside
+        for (const float grab : {1000.0F, 1500.0F}) { // a corner or the point, and the line or the inside
             send(RULECANVAS_MOUSE_LEFT_DOWN, grab, grab);
             send(RULECANVAS_MOUSE_MOVED, grab + 1, grab);
             const Counts cost = send(RULECANVAS_MOUSE_MOVED, grab + 2, grab + 1);

@@ -29,12 +29,6 @@ Rule MakeRule(const char* type, const char* name, const char* configuration = ""
     return rule;
 }
 
-struct Refused {
-    const char* what;
-    std::string text;
-    const char* problem;
-};
-
 /// An editor on a view of 960 x 540 pixels, used as a person would.
 struct Person {
     std::string said;
@@ -65,8 +59,18 @@ struct Person {
         editor.LeftUp({x, y});
         return *this;
     }
+    Person& RightPress(float x, float y) {
+        editor.RightDown({x, y}, false);
+        return *this;
+    }
+    Person& DoubleClick(float x, float y) {
+        editor.DoubleClick({x, y});
+        return Release(x, y);
+    }
     Person& Click(float x, float y) { return Press(x, y).Release(x, y); }
     Person& Drag(float x1, float y1, float x2, float y2) { return Press(x1, y1).Release(x2, y2); }
+    /// A polygon whose closing edge would cross another.
+    Person& Bow() { return Draw("Polygon").Click(150, 200).Click(250, 120).Click(250, 300).Click(400, 200); }
     Person& Triangle() { return Click(100, 100).Click(300, 100).Click(300, 300); }
 
     size_t Count() const { return editor.RulesToSave().size(); }
@@ -103,7 +107,7 @@ std::filesystem::path Folder() {
 } // namespace
 
 TEST(RulesFile, RefusesWholeFilesAndSaysWhy) {
-    const Refused rows[] = {
+    const std::tuple<const char*, std::string, const char*> rows[] = {
         {"no JSON", "{", "no JSON"},
         {"another format", R"({"rules":[]})", "\"format\" is not"},
         {"no version", R"({"format":"rulecanvas-rules","rules":[]})", "\"version\""},
@@ -119,10 +123,10 @@ TEST(RulesFile, RefusesWholeFilesAndSaysWhy) {
         {"a flag that is a number", RuleText(R"("name":"a","locked":1)"), "neither true nor false"},
         {"a limit that is missing", RuleText(R"("name":"a","pointLimits":{"maximum":4})"), "\"minimum\""},
     };
-    for (const Refused& row : rows) {
+    for (const auto& [what, text, expected] : rows) {
         std::string problem;
-        EXPECT_FALSE(ParseRules(row.text, problem)) << row.what;
-        EXPECT_NE(problem.find(row.problem), std::string::npos) << row.what << ": " << problem;
+        EXPECT_FALSE(ParseRules(text, problem)) << what;
+        EXPECT_NE(problem.find(expected), std::string::npos) << what << ": " << problem;
     }
 }
 
@@ -201,16 +205,9 @@ TEST(History, StepsBackAndForth) {
 TEST(RuleEditor, ClosesADrawingInEveryWay) {
     const std::vector<std::pair<const char*, std::function<void(Person&)>>> ways = {
         {"Enter", [](Person& person) { person.editor.CloseDrawing(); }},
-        {"the right button",
-         [](Person& person) {
-             person.editor.RightDown({500, 400}, false);
-         }},
+        {"the right button", [](Person& person) { person.RightPress(500, 400); }},
         {"the first corner", [](Person& person) { person.Click(102, 98); }},
-        {"a double click",
-         [](Person& person) {
-             person.editor.DoubleClick({300, 300});
-             person.Release(300, 300);
-         }},
+        {"a double click", [](Person& person) { person.DoubleClick(300, 300); }},
     };
     for (const auto& [name, close] : ways) {
         for (const char* type : {"Polygon", "VirablePolygon", "BrokenLine", "XLineShape"}) {
@@ -247,11 +244,7 @@ TEST(RuleEditor, SaysWhatItRefuses) {
         {"a dent", [](Person& p) { p.Draw("Polygon", "Convex").Triangle().Click(280, 150); }, "bulge"},
         {"too few corners", [](Person& p) { p.Draw("Polygon").Click(9, 9).Click(90, 9).editor.CloseDrawing(); },
          "3 corners"},
-        {"a closing edge that crosses",
-         [](Person& p) {
-             p.Draw("Polygon").Click(150, 200).Click(250, 120).Click(250, 300).Click(400, 200).editor.CloseDrawing();
-         },
-         "cannot be closed"},
+        {"a closing edge that crosses", [](Person& p) { p.Bow().editor.CloseDrawing(); }, "cannot be closed"},
         {"a small box", [](Person& p) { p.Draw("Rect").Drag(100, 100, 104, 104); }, "Too small"},
         {"a dragged corner that crosses",
          [](Person& p) {
@@ -269,8 +262,8 @@ TEST(RuleEditor, SaysWhatItRefuses) {
 
 TEST(RuleEditor, KeepsADrawingThatCannotBeClosed) {
     Person person;
-    person.Draw("Polygon").Click(150, 200).Click(250, 120).Click(250, 300).Click(400, 200);
-    person.editor.RightDown({400, 200}, false);
+    person.Bow();
+    person.RightPress(400, 200);
     person.editor.TakeBackCorner();
     person.editor.CloseDrawing();
     ASSERT_EQ(person.Count(), 1U);
@@ -308,10 +301,7 @@ TEST(RuleEditor, UndoesEveryKindOfChange) {
         {"reshaping", [](Person& p) { p.Drag(200, 150, 180, 140); }},
         {"moving by keys", [](Person& p) { p.editor.Nudge(0, 10, 0); }},
         {"deleting", [](Person& p) { p.editor.Delete(0); }},
-        {"deleting by the right button",
-         [](Person& p) {
-             p.editor.RightDown({300, 200}, false);
-         }},
+        {"deleting by the right button", [](Person& p) { p.RightPress(300, 200); }},
         {"clearing", [](Person& p) { p.editor.Clear(); }},
         {"duplicating", [](Person& p) { p.editor.Duplicate(0); }},
         {"hiding", [](Person& p) { p.editor.SetFlags(0, true, false, false); }},

@@ -1,4 +1,4 @@
-#include "support/scenario_host.h"
+#include "support/stories.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,6 @@
 
 namespace rulecanvas::test {
 namespace {
-
-/// Pixels and grid are the same number in a view of this size.
-constexpr int GridView = 8191;
 
 constexpr const char* Level = R"({"rule":[[100,100],[200,100]]})";
 
@@ -82,89 +79,12 @@ TEST(Line, IsDrawnToAPointerOnTheBorderButNotToOneThatAResizeLeftOutside) {
     }
 }
 
-TEST(Line, ReadsItsConfigurationOrRefusesIt) {
-    for (const auto& [name, points, readBack] :
-         {Row{"a", "[[1.9,2],[3,4],[\"x\"]]", "[[1,2],[3,4]]"}, Row{"a", "[[1,2]]", ""}, Row{"a", "[", ""},
-          Row{"StopLine", "[[0,100],[100,100]]", "[[0,100],[8191,100]]"},
-          Row{"ForLine", "[[200,200],[100,100]]", "[[0,0],[8191,8191]]"},
-          Row{"BackLine", "[[7,50],[7,90]]", "[[7,0],[7,8191]]"}, Row{"DetectLine", "[[7,9],[7,9]]", "[[7,9],[7,9]]"},
-          Row{"ParkLine", "[[7,9],[9000,9]]", "[[7,9],[9000,9]]"}}) {
-        ScenarioHost host(GridView, GridView);
-        const std::string member = "{\"" + std::string(name) + "\":";
-        const std::string config = member + points + "}";
-        const ShapeID shape = host.container.AddShape({TheView, "LineShape", "", name, config.c_str(), ""});
-        EXPECT_EQ(shape == 0, *readBack == '\0') << config;
-        EXPECT_EQ(host.Config(shape), shape == 0 ? "" : member + readBack + "}");
-    }
-    ScenarioHost host(1000, 500);
-    const char* middle = R"({"MiddleLine":[[0,100],[100,100]]})";
-    const ShapeID shape = host.container.AddShape({TheView, "LineShape", "", "MiddleLine", middle, ""});
-    EXPECT_EQ(host.Paint()[0], "line (0,6)-(8191,6) w2 yellow") << "the grid's span counts as pixels";
-    char buffer[35];
-    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer, 34), 0U);
-    EXPECT_EQ(GetVideoAnalyseShapeConfigData(host.container.Handle(), shape, buffer, 35), 1U);
-    EXPECT_EQ(buffer, host.Config(shape)) << "without a line feed";
-}
-
-TEST(Line, KeepsTheFirstTwentyPointsWhereItMayBend) {
-    const std::string five = "[1,9],[2,9],[3,9],[4,9],[5,9]";
-    const std::string twenty = R"({"rule":[)" + five + "," + five + "," + five + "," + five;
-    ScenarioHost host(GridView, GridView);
-    EXPECT_EQ(host.Config(host.Add("XLineShape", twenty + ",[6,9]]}")), twenty + "]}");
-    EXPECT_EQ(host.Config(host.Add("ArrowLineShape", twenty + ",[6,9]]}", R"({"XArrowLine":true})")), twenty + "]}");
-}
-
-TEST(Line, IsMovedOrReshapedAsFarAsItsKindAllows) {
-    using Drag = std::tuple<const char*, const char*, PointF, PointF, const char*>;
-    for (const auto& [type, option, grab, drop, points] :
-         {Drag{"LineShape", "Horizon", {150, 102}, {180, 122}, "[100,120],[200,120]"},
-          Drag{"LineShape", "MovedHLine", {150, 102}, {180, 122}, "[100,120],[200,120]"},
-          Drag{"ArrowLineShape", "Horizon", {150, 102}, {180, 122}, "[130,120],[230,120]"},
-          Drag{"LineShape", R"({"CanMove":false})", {150, 102}, {180, 122}, "[100,100],[200,100]"},
-          Drag{"LineShape", "", {97, 103}, {50.9F, -9}, "[50,0],[200,100]"},
-          Drag{"LineShape", "Horizon", {97, 103}, {50, 60}, "[50,60],[200,60]"},
-          Drag{"LineShape", "MovedHLine", {200, 100}, {250, 60}, "[100,100],[200,100]"},
-          Drag{"VerticalLineShape", "", {200, 100}, {250, 60}, "[100,100],[100,60]"},
-          Drag{"HorizontalLineShape", "", {97, 103}, {50, 60}, "[50,100],[200,100]"},
-          Drag{"XLineShape", "", {200, 100}, {8192, 60}, "[100,100],[200,100]"}}) {
-        SCOPED_TRACE(type + std::string(" ") + option + " at " + Written(grab));
-        ScenarioHost host(GridView, GridView);
-        const ShapeID shape = host.Add(type, Level, option);
-        host.Drag(grab, drop);
-        EXPECT_EQ(host.Config(shape), R"({"rule":[)" + std::string(points) + "]}");
-        const char* state = grab.x == 150 ? "state rule 4>3" : "state rule 5>3";
-        EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on", state, "capture off"}));
-    }
-}
-
 TEST(Line, IsAHorizonByItsNameToo) {
-    for (const auto& [type, name, readBack] :
-         {Row{"LineShape", "Horizon", "[[100,120],[200,120]]"}, Row{"LineShape", "MovedHLine", "[[100,120],[200,120]]"},
-          Row{"LineShape", "horizon", "[[130,120],[230,120]]"}}) {
+    for (const char* name : {"Horizon", "MovedHLine", "horizon"}) {
         ScenarioHost host(GridView, GridView);
-        const std::string member = "{\"" + std::string(name) + "\":";
-        const std::string config = member + "[[100,100],[200,100]]}";
-        const ShapeID shape = host.container.AddShape({TheView, type, "", name, config.c_str(), ""});
+        const ShapeID shape = host.Add("LineShape", Rule("100,100 200,100", name), "", name);
         host.Drag({150, 102}, {180, 122});
-        EXPECT_EQ(host.Config(shape), member + readBack + "}");
-    }
-}
-
-TEST(Line, FollowsTheMouseAndIsLetGoWhenItMeetsTheBorder) {
-    for (const char* type : {"LineShape", "ArrowLineShape"}) {
-        ScenarioHost host(GridView, GridView);
-        const ShapeID shape = host.Add(type, Level);
-        host.Press(200, 100);
-        host.Move(210, 100);
-        EXPECT_EQ(host.Config(shape), R"({"rule":[[100,100],[210,100]]})");
-        host.Release(220, 100);
-        host.Press(150, 100);
-        host.TakeLog();
-        host.Move(60, 90);
-        host.Move(49, 80);
-        EXPECT_EQ(host.TakeLog(), Lines{"capture off"});
-        host.Move(60, 70);
-        EXPECT_EQ(host.Config(shape), R"({"rule":[[10,90],[130,90]]})") << "where the last good step left it";
+        EXPECT_EQ(host.Config(shape), Rule(*name == 'h' ? "130,120 230,120" : "100,120 200,120", name));
     }
 }
 
@@ -246,18 +166,6 @@ TEST(XLine, IsDrawnPointByPointAndFinishedByTheRightButton) {
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "state rule 2>3", "capture off"}));
     host.container.SelectShape(shape, false);
     EXPECT_EQ(host.Paint()[1], "line (100,100)-(200,100) w4 blue") << "as thick as when selected";
-}
-
-TEST(ArrowLine, ThatMayBendIsFinishedByTheRightButton) {
-    ScenarioHost host(GridView, GridView);
-    const ShapeID shape = host.Add("ArrowLineShape", "", R"({"XArrowLine":true})");
-    for (const PointF& corner : {PointF{100, 100}, PointF{200, 100}, PointF{200, 200}}) {
-        host.Click(corner.x, corner.y);
-    }
-    EXPECT_EQ(host.TakeLog(), Lines{"capture on"});
-    host.RightPress(9, 9);
-    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>3", "capture off"}));
-    EXPECT_EQ(host.Config(shape), R"({"rule":[[100,100],[200,100],[200,200]]})");
 }
 
 TEST(DashLine, HasOneThicknessNoMarkAndAlwaysACaption) {

@@ -1,9 +1,10 @@
 // What a host may do from inside a callback, or beside one, and what must hold afterwards.
 
-#include "support/scenario_host.h"
+#include "support/stories.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <atomic>
 #include <cstdio>
 #include <thread>
@@ -29,11 +30,7 @@ const Action Actions[] = {
          host.Press(300, 300);
      }},
     {"press", [](ScenarioHost& host, ShapeID) { host.Press(150, 150); }},
-    {"move and release",
-     [](ScenarioHost& host, ShapeID) {
-         host.Move(120, 130);
-         host.Release(120, 130);
-     }},
+    {"move and release", [](ScenarioHost& host, ShapeID) { Act(host, "move 120 130 release 120 130"); }},
     {"disable and paint",
      [](ScenarioHost& host, ShapeID shape) {
          host.container.EnableShape(shape, false);
@@ -42,16 +39,13 @@ const Action Actions[] = {
      }},
     {"make another",
      [](ScenarioHost& host, ShapeID) {
-         host.container.AddShape({TheView + 1, "Rect"});
+         host.container.AddShape(ShapeSettings{TheView + 1, "Rect"});
      }},
 };
 
 /// Draws, moves, resizes and deletes one shape; every kind of callback comes.
 void EditFromBeginningToEnd(ScenarioHost& host) {
-    host.Drag({100, 100}, {200, 200});
-    host.Drag({100, 100}, {90, 90});
-    host.Drag({150, 150}, {160, 160});
-    host.Drag({210, 210}, {260, 260});
+    Act(host, "drag 100 100 200 200 drag 100 100 90 90 drag 150 150 160 160 drag 210 210 260 260");
     host.Paint();
     host.RightPress(150, 150);
 }
@@ -106,51 +100,37 @@ INSTANTIATE_TEST_SUITE_P(Shapes, Reentry,
                          [](const auto& tested) { return std::string(tested.param); });
 
 TEST(Callbacks, LetsTheLatestWordOfTheHostStand) {
-    struct Case {
-        const char* inside;
-        std::function<void(ScenarioHost&)> gesture;
-        Lines log;
-    };
-    for (const Case& c : {
-             Case{"select rule",
-                  [](ScenarioHost& host) {
-                      host.Drag({150, 150}, {160, 160});
-                  },
-                  {"select rule", "capture off", "capture on", "redraw", "capture off", "state rule 2>3"}},
-             Case{"state rule 4>3",
-                  [](ScenarioHost& host) {
-                      host.Drag({150, 150}, {160, 160});
-                  },
-                  {"select rule", "capture on", "state rule 4>3", "capture off", "capture on"}},
-             Case{"capture off",
-                  [](ScenarioHost& host) { host.RightPress(150, 150); },
-                  {"capture off", "capture off", "capture on"}},
-         }) {
+    using Case = std::array<const char*, 3>;
+    for (const auto& [inside, gesture, heard] :
+         {Case{"select rule", "drag 150 150 160 160", "select off on redraw off 2>3"},
+          Case{"state rule 4>3", "drag 150 150 160 160", "select on 4>3 off on"},
+          Case{"capture off", "right 150 150", "off off on"}}) {
         ScenarioHost host;
         const ShapeID shape = host.Add("Rect", "", "EnableRBtnDelete");
         host.Drag({100, 100}, {200, 200});
         host.TakeLog();
         bool done = false;
+        const std::string wanted = inside;
         host.onEntry = [&](const std::string& entry) {
-            if (!done && entry == c.inside) {
+            if (!done && entry == wanted) {
                 done = true;
                 host.container.RedrawShape(shape);
                 host.Press(150, 150);
             }
         };
-        c.gesture(host);
-        EXPECT_EQ(host.TakeLog(), c.log) << c.inside;
+        Act(host, gesture);
+        EXPECT_EQ(Heard(host), heard) << inside;
         host.onEntry = nullptr;
         host.Release(200, 200);
         host.Drag({0, 0}, {1, 1});
-        EXPECT_NE(host.Config(shape), "") << c.inside << ": the new drawing was lost";
+        EXPECT_NE(host.Config(shape), "") << inside << ": the new drawing was lost";
     }
 }
 
 TEST(Callbacks, AStepDoesNotBringBackTheFigureThatTheHostReplaced) {
     for (const char* type : {"Rect", "LineShape"}) {
         for (int asked = 1; asked <= 6; ++asked) {
-            ScenarioHost host(8191, 8191); // pixels and grid are the same number
+            ScenarioHost host(GridView, GridView);
             const ShapeID shape = host.Add(type);
             host.Drag({100, 100}, {200, 200});
             host.Press(150, 150);
@@ -222,10 +202,7 @@ TEST(Callbacks, AShapeThatIsDeletedBetweenItsHitAndThePressDoesNotAnswer) {
     ScenarioHost host;
     const ShapeID figure = host.Add("Rect", R"({"rule":[[1000,1000],[3000,3000]]})", "EnableRBtnDelete");
     host.Add("Polygon");
-    for (const PointF& corner :
-         {PointF{50, 50}, PointF{100, 50}, PointF{100, 0}, PointF{0, 0}, PointF{0, 100}, PointF{120, 100}}) {
-        host.Click(corner.x, corner.y);
-    }
+    Act(host, "click 50 50 click 100 50 click 100 0 click 0 0 click 0 100 click 120 100");
     host.Click(120, 40); // whose closing edge crosses another
     host.TakeLog();
     host.onEntry = [&](const std::string& entry) {

@@ -70,15 +70,8 @@ Lines ScenarioHost::TakeLog() {
     return taken;
 }
 
-ShapeID ScenarioHost::Add(const char* type, const std::string& config, const std::string& option) {
-    ShapeSettings settings;
-    settings.view = TheView;
-    settings.type = type;
-    settings.label = "label";
-    settings.name = "rule";
-    settings.configuration = config.c_str();
-    settings.option = option.c_str();
-    const ShapeID shape = container.AddShape(settings);
+ShapeID ScenarioHost::Add(const char* type, const std::string& config, const std::string& option, const char* name) {
+    const ShapeID shape = container.AddShape({TheView, type, "label", name, config.c_str(), option.c_str()});
     log.clear();
     return shape;
 }

@@ -28,8 +28,9 @@ class ScenarioHost {
     /// What was written down since the last call.
     Lines TakeLog();
 
-    /// A shape labelled "label" and named "rule". Forgets what was written down while it was made.
-    ShapeID Add(const char* type, const std::string& config = "", const std::string& option = "");
+    /// A shape labelled "label". Forgets what was written down while it was made.
+    ShapeID Add(const char* type, const std::string& config = "", const std::string& option = "",
+                const char* name = "rule");
 
     void Press(float x, float y) { Send(RULECANVAS_MOUSE_LEFT_DOWN, x, y); }
     void Move(float x, float y) { Send(RULECANVAS_MOUSE_MOVED, x, y); }

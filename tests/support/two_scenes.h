@@ -3,6 +3,7 @@
 #pragma once
 
 #include "container/container.h"
+#include "support/types.h"
 
 #include <functional>
 #include <string>
@@ -106,27 +107,13 @@ class TwoScenes {
     ViewID View() { return static_cast<ViewID>(Pick(8) == 0 ? 1 : 0); }
 
     void Happen() {
-        switch (Pick(16)) {
-        case 0:
-        case 1:
-            return Add();
-        case 2:
-            return ChangeOne();
-        case 3:
-            return Both([&](CVideoAnalyseContainer& container) { container.InvalidateAll(); });
-        case 4:
-        case 5:
-        case 6:
-            return Send(RULECANVAS_MOUSE_MOVED);
-        case 7:
-        case 8:
-        case 9:
-            return Send(RULECANVAS_MOUSE_LEFT_UP);
-        case 10:
-            return Press(RULECANVAS_MOUSE_RIGHT_DOWN);
-        default:
-            return Press(RULECANVAS_MOUSE_LEFT_DOWN);
-        }
+        const int what = Pick(16);
+        what < 2    ? Add()
+        : what == 2 ? ChangeOne()
+        : what == 3 ? Both([](CVideoAnalyseContainer& container) { container.InvalidateAll(); })
+        : what < 7  ? Send(RULECANVAS_MOUSE_MOVED)
+        : what < 10 ? Send(RULECANVAS_MOUSE_LEFT_UP)
+                    : Press(what == 10 ? RULECANVAS_MOUSE_RIGHT_DOWN : RULECANVAS_MOUSE_LEFT_DOWN);
     }
 
     template <class Call>
@@ -136,12 +123,8 @@ class TwoScenes {
     }
 
     void Add() {
-        static const char* const types[] = {"Rect",           "OvalShape",        "PixelCountShape", "LineShape",
-                                            "DashLineShape",  "XLineShape",       "ArrowLineShape",  "BrokenLine",
-                                            "VirablePolygon", "Polygon",          "CrossShape",      "BigCrossShape",
-                                            "SpotShape",      "VerticalLineShape"};
         static const char* const options[] = {"", "EnableRBtnDelete", "Convex", "2"};
-        const char* type = types[Pick(static_cast<int>(std::size(types)))];
+        const char* type = Types[Pick(static_cast<int>(std::size(Types)))].name;
         const char* option = options[Pick(static_cast<int>(std::size(options)))];
         const auto corner = [&] { return "[" + std::to_string(Pick(9000)) + "," + std::to_string(Pick(9000)) + "]"; };
         const std::string points = "[" + corner() + "," + corner() + "]";

@@ -28,13 +28,12 @@ async function playMouse(page, command, at) {
     }
 }
 
-/** Steps that a program takes; runs in the page. */
+/** Steps that a program takes; runs in the page. Whether it was one of them. */
 function playProgram([command, ...words]) {
     const { canvas, log } = window;
     const rule = canvas.rule(words[0]);
-    switch (command) {
-        case "add": {
-            const [type, name, option, configuration] = words;
+    const steps = {
+        add([type, name, option, configuration]) {
             canvas.add({
                 type,
                 name,
@@ -42,36 +41,29 @@ function playProgram([command, ...words]) {
                 ...(option !== "-" && { option: option.startsWith("{") ? JSON.parse(option) : option }),
                 ...(configuration && { configuration: JSON.parse(configuration), selected: true }),
             });
-            return true;
-        }
-        case "config": {
-            const text = rule.configuration === null ? "" : JSON.stringify(rule.configuration);
-            log.push(`config ${words[0]} ${text}`);
-            return true;
-        }
-        case "direction":
-            rule.direction = Number(words[1]);
-            return true;
-        case "limits":
-            rule.pointLimits = { maximum: Number(words[1]), minimum: Number(words[2]) };
-            return true;
-        case "caption":
-            rule.caption = words.slice(1).join(" ");
-            return true;
-        case "select":
-            rule.select();
-            return true;
-        case "remove":
-            rule.remove();
-            return true;
-        case "reload": {
+        },
+        config: () => log.push(`config ${rule.name} ${rule.configuration ? JSON.stringify(rule.configuration) : ""}`),
+        direction: () => (rule.direction = Number(words[1])),
+        limits: () => (rule.pointLimits = { maximum: Number(words[1]), minimum: Number(words[2]) }),
+        caption: () => (rule.caption = words.slice(1).join(" ")),
+        select: () => rule.select(),
+        remove: () => rule.remove(),
+        reload() {
             const saved = canvas.saveText();
             canvas.clear();
             canvas.load(saved);
-            return true;
-        }
+        },
+    };
+    steps[command]?.(words);
+    return command in steps;
+}
+
+async function playStep(page, words) {
+    if (words[0] === "escape") {
+        await page.keyboard.press("Escape");
+    } else if (!(await page.evaluate(playProgram, words))) {
+        await playMouse(page, words[0], words.slice(1).map(Number));
     }
-    return false;
 }
 
 async function playInBrowser({ browser, address }) {
@@ -80,18 +72,17 @@ async function playInBrowser({ browser, address }) {
     const lines = [];
     const takeLog = async () => lines.push(...(await page.evaluate(() => window.log.splice(0))));
     for (const line of readFileSync(table, "utf8").split("\n")) {
-        const words = line.split(" ");
-        if (words[0] === "case") {
+        if (line.startsWith("case ")) {
             await page.evaluate("window.canvas?.destroy()");
             await takeLog();
             lines.push(line);
             await page.evaluate("start()");
-        } else if (words[0] === "escape") {
-            await page.keyboard.press("Escape");
-        } else if (line !== "" && !line.startsWith("#") && !(await page.evaluate(playProgram, words))) {
-            await playMouse(page, words[0], words.slice(1).map(Number));
+        } else if (line.startsWith(" ")) {
+            for (const step of line.split("|")) {
+                await playStep(page, step.trim().split(" "));
+                await takeLog();
+            }
         }
-        await takeLog();
     }
     await page.evaluate("window.canvas.destroy()");
     await takeLog();

@@ -55,6 +55,21 @@ export async function openPage(browser, address, path, settings = {}) {
     return { page, complaints, close: () => context.close() };
 }
 
+/** A test on view.html, with rules over its picture; what the browser complains about fails it. */
+export function viewTest(name, { start = { picture: { width: 800, height: 600 } }, ...settings }, run) {
+    test(name, async ({ browser, address }) => {
+        const { page, complaints, close } = await openPage(browser, address, "test/view.html", settings);
+        await page.waitForFunction("window.ready");
+        await (start && page.evaluate((start) => window.start(start), start));
+        await run(page);
+        equal(complaints, [], "the browser's complaints");
+        await close();
+    });
+}
+
+/** Points written as "100,100 300,200". */
+export const at = (text) => text.split(" ").map((point) => point.split(",").map(Number));
+
 export function equal(actual, expected, what) {
     const [a, e] = [JSON.stringify(actual), JSON.stringify(expected)];
     if (a !== e) {

@@ -1,31 +1,17 @@
 // Sizes, pixel ratios, zoomed pages, fingers and keys.
 import { readFileSync } from "node:fs";
 import { join } from "node:path";
-import { drag, equal, isTrue, openPage, root, test } from "./harness.mjs";
-
-async function openView({ browser, address }, settings) {
-    const opened = await openPage(browser, address, "test/view.html", settings);
-    await opened.page.waitForFunction("window.ready");
-    await opened.page.evaluate("start({ picture: { width: 800, height: 600 } })");
-    return opened;
-}
+import { at, drag, equal, isTrue, root, viewTest } from "./harness.mjs";
 
 const points = (page, name) => page.evaluate((name) => window.canvas.rule(name).points, name);
 const add = (page, options) => page.evaluate((options) => window.canvas.add(options).name, options);
+const expectPoints = async (page, name, expected, what) => equal(await points(page, name), at(expected), what);
 
 for (const ratio of [1, 1.5, 3]) {
-    test(`a screen with ${ratio} device pixels for a CSS pixel`, async (session) => {
-        const { page, complaints, close } = await openView(session, { deviceScaleFactor: ratio });
+    viewTest(`a screen with ${ratio} device pixels for a CSS pixel`, { deviceScaleFactor: ratio }, async (page) => {
         await add(page, { type: "Rect", name: "gate" });
         await drag(page, [100, 100], [300, 200]);
-        equal(
-            await points(page, "gate"),
-            [
-                [100, 100],
-                [300, 200],
-            ],
-            "the rectangle",
-        );
+        await expectPoints(page, "gate", "100,100 300,200", "the rectangle");
         const [width, height] = await page.evaluate("[canvas.canvas.width, canvas.canvas.height]");
         equal([width, height], [800 * ratio, 600 * ratio], "the canvas's own pixels");
         // Two strokes of 200 and two of 100 CSS pixels, 2 thick, and four handles.
@@ -34,58 +20,28 @@ for (const ratio of [1, 1.5, 3]) {
             painted > 1100 * ratio * ratio && painted < 2400 * ratio * ratio,
             `${painted} painted pixels at ratio ${ratio}`,
         );
-        equal(complaints, [], "the browser's complaints");
-        await close();
     });
 }
 
-test("rules follow a picture that is resized", async (session) => {
-    const { page, complaints, close } = await openView(session);
-    await add(page, {
-        type: "Polygon",
-        name: "field",
-        points: [
-            [100, 100],
-            [300, 100],
-            [200, 300],
-        ],
-    });
+viewTest("rules follow a picture that is resized", {}, async (page) => {
+    await add(page, { type: "Polygon", name: "field", points: at("100,100 300,100 200,300") });
     await page.evaluate(() =>
         Object.assign(document.getElementById("picture").style, { width: "400px", height: "300px" }),
     );
     await page.waitForFunction("canvas.size.width === 400");
     equal(await page.evaluate("[canvas.canvas.width, canvas.canvas.clientWidth]"), [400, 400], "the canvas");
     await drag(page, [100, 80], [110, 90]);
-    equal(
-        await points(page, "field"),
-        [
-            [120, 120],
-            [320, 120],
-            [220, 320],
-        ],
-        "the moved polygon in pixels of the picture",
-    );
+    await expectPoints(page, "field", "120,120 320,120 220,320", "the moved polygon in pixels of the picture");
     await page.evaluate(() => Object.assign(document.getElementById("picture").style, { display: "none" }));
     await page.evaluate("new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done)))");
     await page.evaluate(() =>
         Object.assign(document.getElementById("picture").style, { display: "", width: "800px", height: "600px" }),
     );
     await page.waitForFunction("canvas.size.width === 800");
-    equal(
-        await points(page, "field"),
-        [
-            [120, 120],
-            [320, 120],
-            [220, 320],
-        ],
-        "the polygon after the picture was hidden",
-    );
-    equal(complaints, [], "the browser's complaints");
-    await close();
+    await expectPoints(page, "field", "120,120 320,120 220,320", "the polygon after the picture was hidden");
 });
 
-test("a page that is zoomed and scrolled", async (session) => {
-    const { page, close } = await openView(session);
+viewTest("a page that is zoomed and scrolled", {}, async (page) => {
     await page.evaluate(() => {
         document.body.style.height = "3000px";
         Object.assign(document.body.firstElementChild.style, { transform: "scale(1.25)", transformOrigin: "0 0" });
@@ -93,23 +49,13 @@ test("a page that is zoomed and scrolled", async (session) => {
     });
     await add(page, { type: "Rect", name: "gate" });
     await drag(page, [125, 75], [375, 200]);
-    equal(
-        await points(page, "gate"),
-        [
-            [100, 100],
-            [300, 200],
-        ],
-        "the rectangle",
-    );
+    await expectPoints(page, "gate", "100,100 300,200", "the rectangle");
     await page.mouse.move(200, 200);
     await page.mouse.wheel(0, 120);
     await page.waitForFunction("window.scrollY > 50");
-    await close();
 });
 
-test("a picture shown with borders by object-fit", async ({ browser, address }) => {
-    const { page, close } = await openPage(browser, address, "test/view.html");
-    await page.waitForFunction("window.ready");
+viewTest("a picture shown with borders by object-fit", { start: null }, async (page) => {
     const box = await page.evaluate(async () => {
         const source = Object.assign(document.createElement("canvas"), { width: 400, height: 400 });
         const image = Object.assign(new Image(), { src: source.toDataURL() });
@@ -121,12 +67,9 @@ test("a picture shown with borders by object-fit", async ({ browser, address }) 
         return [left, top, width, height, canvas.picture.width];
     });
     equal(box, [100, 0, 600, 600, 400], "the canvas over the picture alone");
-    await close();
 });
 
-test("a canvas of the page's own", async ({ browser, address }) => {
-    const { page, close } = await openPage(browser, address, "test/view.html", { deviceScaleFactor: 2 });
-    await page.waitForFunction("window.ready");
+viewTest("a canvas of the page's own", { start: null, deviceScaleFactor: 2 }, async (page) => {
     const sizes = await page.evaluate(async () => {
         const element = Object.assign(document.createElement("canvas"), { width: 300, height: 200 });
         document.body.append(element);
@@ -134,35 +77,21 @@ test("a canvas of the page's own", async ({ browser, address }) => {
         return [element.clientWidth, element.clientHeight, element.width, element.height, canvas.size.width];
     });
     equal(sizes, [300, 200, 600, 400, 300], "layout and own pixels");
-    await close();
 });
 
-test("fingers draw, finish by a long press, and take hold of handles", async (session) => {
-    const { page, complaints, close } = await openView(session, { hasTouch: true });
+viewTest("fingers draw, finish by a long press, and take hold of handles", { hasTouch: true }, async (page) => {
     const client = await page.context().newCDPSession(page);
     const touch = (type, ...touchPoints) =>
         client.send("Input.dispatchTouchEvent", { type, touchPoints: touchPoints.map(([x, y]) => ({ x, y })) });
     await add(page, { type: "Polygon", name: "field" });
-    for (const [x, y] of [
-        [100, 100],
-        [300, 100],
-        [200, 300],
-    ]) {
+    for (const [x, y] of at("100,100 300,100 200,300")) {
         await page.touchscreen.tap(x, y);
     }
     equal(await page.evaluate("canvas.rule('field').state"), "drawing", "the state while taps are given");
     await touch("touchStart", [400, 400]);
     await page.waitForFunction("canvas.rule('field').state === 'complete'");
     await touch("touchEnd");
-    equal(
-        await points(page, "field"),
-        [
-            [100, 100],
-            [300, 100],
-            [200, 300],
-        ],
-        "the polygon: the long press gave no point",
-    );
+    await expectPoints(page, "field", "100,100 300,100 200,300", "the polygon: the long press gave no point");
 
     // 12 pixels beside the handle.
     await touch("touchStart", [212, 300]);
@@ -170,38 +99,20 @@ test("fingers draw, finish by a long press, and take hold of handles", async (se
         await touch("touchMove", [x, 320]);
     }
     await touch("touchEnd");
-    equal(
-        await points(page, "field"),
-        [
-            [100, 100],
-            [300, 100],
-            [240, 320],
-        ],
-        "the dragged vertex",
-    );
+    await expectPoints(page, "field", "100,100 300,100 240,320", "the dragged vertex");
 
     await add(page, { type: "LineShape", name: "door" });
     await touch("touchStart", [500, 100]);
     await touch("touchMove", [520, 120]);
     await touch("touchMove", [700, 300]);
     await touch("touchEnd");
-    equal(
-        await points(page, "door"),
-        [
-            [500, 100],
-            [700, 300],
-        ],
-        "the line",
-    );
+    await expectPoints(page, "door", "500,100 700,300", "the line");
     await page.evaluate("canvas.select(null)");
     await page.touchscreen.tap(608, 192);
     equal(await page.evaluate("canvas.selected?.name"), "door", "a tap beside a thin line");
-    equal(complaints, [], "the browser's complaints");
-    await close();
 });
 
-test("keys give up, finish, move and delete", async (session) => {
-    const { page, close } = await openView(session);
+viewTest("keys give up, finish, move and delete", {}, async (page) => {
     await add(page, { type: "Polygon", name: "half" });
     await page.mouse.click(100, 100);
     await page.mouse.click(300, 100);
@@ -209,11 +120,7 @@ test("keys give up, finish, move and delete", async (session) => {
     equal(await page.evaluate("[canvas.rules.length, canvas.drawing]"), [0, null], "what is left after Escape");
 
     await add(page, { type: "Polygon", name: "field" });
-    for (const [x, y] of [
-        [100, 100],
-        [300, 100],
-        [200, 300],
-    ]) {
+    for (const [x, y] of at("100,100 300,100 200,300")) {
         await page.mouse.click(x, y);
     }
     await page.keyboard.press("Enter");
@@ -221,15 +128,7 @@ test("keys give up, finish, move and delete", async (session) => {
     await page.mouse.click(200, 150);
     await page.keyboard.press("ArrowRight");
     await page.keyboard.press("Shift+ArrowDown");
-    equal(
-        await points(page, "field"),
-        [
-            [101, 110],
-            [301, 110],
-            [201, 310],
-        ],
-        "the moved polygon",
-    );
+    await expectPoints(page, "field", "101,110 301,110 201,310", "the moved polygon");
     equal(await page.evaluate("canvas.selected?.name"), "field", "the selection after moving");
     await page.evaluate("canvas.rule('field').locked = true");
     await page.keyboard.press("ArrowRight");
@@ -238,11 +137,9 @@ test("keys give up, finish, move and delete", async (session) => {
     await page.evaluate("canvas.rule('field').locked = false; canvas.rule('field').select()");
     await page.keyboard.press("Delete");
     equal(await page.evaluate("canvas.rules.length"), 0, "what is left after Delete");
-    await close();
 });
 
-test("a gesture ends where the pointer was lost", async (session) => {
-    const { page, close } = await openView(session);
+viewTest("a gesture ends where the pointer was lost", {}, async (page) => {
     await add(page, { type: "Rect", name: "gate" });
     await page.mouse.move(100, 100);
     await page.mouse.down();
@@ -255,19 +152,10 @@ test("a gesture ends where the pointer was lost", async (session) => {
     equal(await page.evaluate("canvas.rule('gate').state"), "complete", "the state");
     await page.mouse.move(500, 500);
     await page.mouse.up();
-    equal(
-        await points(page, "gate"),
-        [
-            [100, 100],
-            [300, 200],
-        ],
-        "the rectangle",
-    );
-    await close();
+    await expectPoints(page, "gate", "100,100 300,200", "the rectangle");
 });
 
-test("undo and redo, with the place of a pixel counter", async (session) => {
-    const { page, close } = await openView(session);
+viewTest("undo and redo, with the place of a pixel counter", {}, async (page) => {
     await page.evaluate("window.steps = new rulecanvas.History(canvas); 0");
     await add(page, { type: "Rect", name: "gate" });
     await drag(page, [500, 100], [700, 200]);
@@ -284,45 +172,21 @@ test("undo and redo, with the place of a pixel counter", async (session) => {
         );
     equal(await boxOf(), [100, 100, 180, 300], "where the pixel counter is");
     await page.evaluate("steps.undo()");
-    equal(
-        await points(page, "gate"),
-        [
-            [500, 100],
-            [700, 200],
-        ],
-        "the rectangle after undo",
-    );
+    await expectPoints(page, "gate", "500,100 700,200", "the rectangle after undo");
     equal(await boxOf(), [100, 100, 180, 300], "where the pixel counter is after undo");
     equal(await page.evaluate("canvas.rule('gate') === gate"), true, "the rule is the same object");
     await page.evaluate("steps.redo()");
-    equal(
-        await points(page, "gate"),
-        [
-            [520, 120],
-            [720, 220],
-        ],
-        "the rectangle after redo",
-    );
+    await expectPoints(page, "gate", "520,120 720,220", "the rectangle after redo");
     await page.evaluate("steps.undo(); steps.undo(); steps.undo()");
     equal(
         await page.evaluate("[canvas.rules.length, steps.canUndo, steps.canRedo]"),
         [0, false, true],
         "the beginning",
     );
-    await close();
 });
 
-test("the library's own functions are within reach", async (session) => {
-    const { page, close } = await openView(session);
-    await add(page, {
-        type: "Rect",
-        name: "gate",
-        points: [
-            [100, 100],
-            [300, 200],
-        ],
-        selected: true,
-    });
+viewTest("the library's own functions are within reach", {}, async (page) => {
+    await add(page, { type: "Rect", name: "gate", points: at("100,100 300,200"), selected: true });
     const answer = await page.evaluate(() => {
         const { functions, container } = window.canvas.library;
         return functions.GetSelectedVideoAnalyseShapeID(container) === window.canvas.rule("gate").shape;
@@ -336,63 +200,24 @@ test("the library's own functions are within reach", async (session) => {
         names,
     );
     equal(missing, [], "functions that are not there");
-    await close();
 });
 
-test("what is drawn in parts is what is drawn as a whole", async (session) => {
-    const { page, close } = await openView(session, { deviceScaleFactor: 1.5 });
-    const style = { thickness: 3, unselectedThickness: 1 };
-    await add(page, {
-        type: "Rect",
-        name: "cells",
-        style: { mosaic: 16 },
-        points: [
-            [60, 60],
-            [420, 300],
+viewTest("what is drawn in parts is what is drawn as a whole", { deviceScaleFactor: 1.5 }, async (page) => {
+    for (const [type, name, points, more] of [
+        ["Rect", "cells", "60,60 420,300", { style: { mosaic: 16 } }],
+        [
+            "Polygon",
+            "field",
+            "100,100 500,120 450,400 150,380",
+            { direction: 2, style: { thickness: 3, unselectedThickness: 1 } },
         ],
-    });
-    await add(page, {
-        type: "Polygon",
-        name: "field",
-        caption: "Field",
-        style,
-        direction: 2,
-        points: [
-            [100, 100],
-            [500, 120],
-            [450, 400],
-            [150, 380],
-        ],
-    });
-    await add(page, {
-        type: "XLineShape",
-        name: "wire",
-        caption: "Wire",
-        direction: 2,
-        points: [
-            [50, 250],
-            [400, 230],
-            [700, 300],
-        ],
-    });
-    await add(page, {
-        type: "OvalShape",
-        name: "tree",
-        caption: "Tree",
-        points: [
-            [300, 200],
-            [600, 350],
-        ],
-    });
-    await add(page, { type: "SpotShape", name: "lamp", caption: "Lamp", mode: "solid", points: [[200, 200]] });
-    await add(page, {
-        type: "BigCrossShape",
-        name: "aim",
-        points: [
-            [350, 150],
-            [250, 330],
-        ],
-    });
+        ["XLineShape", "wire", "50,250 400,230 700,300", { direction: 2 }],
+        ["OvalShape", "tree", "300,200 600,350"],
+        ["SpotShape", "lamp", "200,200", { mode: "solid" }],
+        ["BigCrossShape", "aim", "350,150 250,330"],
+    ]) {
+        await add(page, { type, name, caption: name, points: at(points), ...more });
+    }
     /** Canvas pixels that a whole drawing changes by more than the smoothing of a cut line does, and those that differ from the last call's. */
     const compare = () =>
         page.evaluate(async () => {
@@ -417,35 +242,16 @@ test("what is drawn in parts is what is drawn as a whole", async (session) => {
             return [differing(inParts, pixels()), changed];
         });
     for (const [from, to] of [
-        [
-            [440, 380],
-            [500, 360],
-        ],
-        [
-            [350, 280],
-            [300, 320],
-        ],
-        [
-            [200, 200],
-            [230, 260],
-        ],
-        [
-            [400, 230],
-            [420, 180],
-        ],
-        [
-            [780, 580],
-            [790, 590],
-        ],
-        [
-            [250, 330],
-            [280, 300],
-        ],
-    ]) {
+        "440,380 500,360",
+        "350,280 300,320",
+        "200,200 230,260",
+        "400,230 420,180",
+        "780,580 790,590",
+        "250,330 280,300",
+    ].map(at)) {
         await drag(page, from, to, 3);
         const [wrong, changed] = await compare();
         equal(wrong, 0, `wrong pixels after the drag from ${from}`);
         isTrue(changed > 0, `the drag from ${from} changed the picture`);
     }
-    await close();
 });

@@ -47,7 +47,16 @@ class Player {
         container.Enable();
     }
 
-    void Play(const std::string& step) {
+    /// Steps with bars between them.
+    void Play(const std::string& steps) {
+        std::istringstream in(steps);
+        for (std::string step; std::getline(in, step, '|');) {
+            PlayStep(step);
+        }
+    }
+
+  private:
+    void PlayStep(const std::string& step) {
         std::istringstream words(step);
         std::string command;
         words >> command;
@@ -63,7 +72,6 @@ class Player {
         }
     }
 
-  private:
     void Add(std::istringstream& words) {
         Rule rule;
         words >> rule.type >> rule.name >> rule.option >> rule.configuration;
@@ -75,15 +83,9 @@ class Player {
     }
 
     void Make(Rule rule) {
-        rulecanvas::ShapeSettings settings;
-        settings.view = View;
-        settings.type = rule.type.c_str();
-        settings.name = rule.name.c_str();
-        settings.label = "rule";
-        settings.option = rule.option.c_str();
-        settings.configuration = rule.configuration.c_str();
         rule.state = rule.configuration.empty() ? 1 : Complete;
-        rule.shape = container.AddShape(settings);
+        rule.shape = container.AddShape(
+            {View, rule.type.c_str(), "rule", rule.name.c_str(), rule.configuration.c_str(), rule.option.c_str()});
         if (rule.shape == 0) {
             throw std::runtime_error("refused: " + rule.name);
         }
@@ -174,12 +176,7 @@ class Player {
                 rule.state = Complete;
             }
         }
-        const std::vector<Rule> now = rules;
-        for (const Rule& rule : now) {
-            if (rule.state == Deleted) {
-                Remove(rule.shape);
-            }
-        }
+        RemoveThoseIn(Deleted, Deleted);
         Paint();
     }
 
@@ -201,10 +198,12 @@ class Player {
         }
     }
 
-    void RemoveUnfinished() {
+    void RemoveUnfinished() { RemoveThoseIn(1, 2); }
+
+    void RemoveThoseIn(int firstState, int lastState) {
         const std::vector<Rule> now = rules;
         for (const Rule& rule : now) {
-            if (rule.state == 1 || rule.state == 2) {
+            if (rule.state >= firstState && rule.state <= lastState) {
                 Remove(rule.shape);
             }
         }

@@ -1,25 +1,30 @@
 // The page as a person uses it: tools, help, undo, files, on a desktop and on a phone.
 import { mkdirSync, readFileSync, writeFileSync } from "node:fs";
 import { join } from "node:path";
-import { built, drag, equal, isTrue, openPage, test } from "./harness.mjs";
+import { at as points, built, drag, equal, isTrue, openPage, test } from "./harness.mjs";
 
 const pictures = join(built, "pictures");
 mkdirSync(pictures, { recursive: true });
 
-async function openTool({ browser, address }, settings = { viewport: { width: 1440, height: 860 } }) {
-    const opened = await openPage(browser, address, "", settings);
-    await opened.page.waitForSelector("[data-ready]");
-    const box = await opened.page.locator(".frame > canvas:last-child").boundingBox();
-    const at = (x, y) => [Math.round(box.x + x * box.width), Math.round(box.y + y * box.height)];
-    return { ...opened, at };
+/** A test on the page; `at` tells where a part of its picture is. What the browser complains about fails it. */
+function pageTest(name, settings, run) {
+    test(name, async ({ browser, address }) => {
+        const { page, complaints, close } = await openPage(browser, address, "", settings);
+        await page.waitForSelector("[data-ready]");
+        const box = await page.locator(".frame > canvas:last-child").boundingBox();
+        await run(page, (x, y) => [Math.round(box.x + x * box.width), Math.round(box.y + y * box.height)]);
+        equal(complaints, [], "the browser's complaints");
+        await close();
+    });
 }
 
+const DESKTOP = { viewport: { width: 1440, height: 860 } };
+const PHONE = { viewport: { width: 390, height: 844 }, deviceScaleFactor: 3, hasTouch: true, isMobile: true };
 const rules = (page) => page.locator("#rules li");
 const help = (page) => page.locator("#help").textContent();
 const picture = (page, name) => page.screenshot({ path: join(pictures, `${name}.png`) });
 
-test("the page draws a rule of every type and lists it", async (session) => {
-    const { page, complaints, at, close } = await openTool(session);
+pageTest("the page draws a rule of every type and lists it", DESKTOP, async (page, at) => {
     for (let i = await rules(page).count(); i > 0; --i) {
         await rules(page)
             .first()
@@ -36,11 +41,7 @@ test("the page draws a rule of every type and lists it", async (session) => {
         isTrue((await help(page)).length > 10 && !(await help(page)).startsWith("Choose"), `the help line for ${type}`);
         const drawing = await page.evaluate("ruleCanvas.drawing.facts.drawing");
         if (drawing === "path") {
-            for (const [dx, dy] of [
-                [0, 0],
-                [0.12, 0.02],
-                [0.1, 0.2],
-            ]) {
+            for (const [dx, dy] of points("0,0 0.12,0.02 0.1,0.2")) {
                 await page.mouse.click(...at(x + dx, y + dy));
             }
             await page.mouse.click(...at(x + 0.02, y + 0.15), { button: "right" });
@@ -56,12 +57,9 @@ test("the page draws a rule of every type and lists it", async (session) => {
     await page.mouse.click(...at(0.99, 0.99));
     await page.waitForFunction(() => ruleCanvas.help.startsWith("Choose"));
     await picture(page, "every-type-deselected");
-    equal(complaints, [], "the browser's complaints");
-    await close();
 });
 
-test("undo, redo, save and open on the page", async (session) => {
-    const { page, complaints, at, close } = await openTool(session);
+pageTest("undo, redo, save and open on the page", DESKTOP, async (page, at) => {
     equal(await rules(page).count(), 4, "rules of the beginning");
     await page.locator('[data-type="Rect"]').click();
     await drag(page, at(0.1, 0.1), at(0.3, 0.3));
@@ -88,12 +86,9 @@ test("undo, redo, save and open on the page", async (session) => {
     await page.locator(".toast:not(.good)").waitFor();
     isTrue((await page.locator(".toast:not(.good)").textContent()).includes('rule 1 "a"'), "the refused rule is named");
     equal(await rules(page).count(), 5, "rules after a refused file");
-    equal(complaints, [], "the browser's complaints");
-    await close();
 });
 
-test("the properties of a rule", async (session) => {
-    const { page, complaints, at, close } = await openTool(session);
+pageTest("the properties of a rule", DESKTOP, async (page, at) => {
     await page.mouse.click(...at(0.5, 0.7));
     await page.locator("#properties").waitFor();
     await page.getByLabel("Caption").fill("Zebra");
@@ -113,24 +108,12 @@ test("the properties of a rule", async (session) => {
     equal(await page.evaluate("ruleCanvas.selected.name"), "crossing", "a name that is taken");
     equal(await page.getByLabel("Name").inputValue(), "crossing", "the field of a refused name");
     await picture(page, "properties");
-    equal(complaints, [], "the browser's complaints");
-    await close();
 });
 
-test("the page on a phone", async (session) => {
-    const { page, complaints, at, close } = await openTool(session, {
-        viewport: { width: 390, height: 844 },
-        deviceScaleFactor: 3,
-        hasTouch: true,
-        isMobile: true,
-    });
+pageTest("the page on a phone", PHONE, async (page, at) => {
     equal(await page.evaluate("document.documentElement.scrollWidth"), 390, "the width that the page takes");
     await page.locator('[data-type="Polygon"]').tap();
-    for (const [x, y] of [
-        [0.1, 0.2],
-        [0.4, 0.15],
-        [0.3, 0.5],
-    ]) {
+    for (const [x, y] of points("0.1,0.2 0.4,0.15 0.3,0.5")) {
         await page.touchscreen.tap(...at(x, y));
     }
     isTrue((await help(page)).includes("hold the finger still"), "the help line for fingers");
@@ -138,6 +121,4 @@ test("the page on a phone", async (session) => {
     await page.locator("#finish").tap();
     await page.waitForFunction(() => document.querySelectorAll("#rules li").length === 5);
     await picture(page, "phone");
-    equal(complaints, [], "the browser's complaints");
-    await close();
 });

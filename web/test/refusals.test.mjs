@@ -1,17 +1,7 @@
 // Wrong calls and wrong files are refused with a reason, and change nothing.
-import { equal, isTrue, openPage, test } from "./harness.mjs";
+import { at, equal, isTrue, viewTest } from "./harness.mjs";
 
-const rule = (name, more = {}) => ({
-    type: "Rect",
-    name,
-    configuration: {
-        [name]: [
-            [100, 100],
-            [900, 900],
-        ],
-    },
-    ...more,
-});
+const rule = (name, more = {}) => ({ type: "Rect", name, configuration: { [name]: at("100,100 900,900") }, ...more });
 const file = (rules, more = {}) => ({ format: "rulecanvas-rules", version: 1, rules, ...more });
 
 const WRONG_ADDS = [
@@ -31,43 +21,9 @@ const WRONG_ADDS = [
     [{ type: "Rect", name: "" }, "wrong-value", "name"],
     [{ type: "Rect", name: "there" }, "duplicate-name", "there"],
     [{ type: "Rect", points: [[1, 2]] }, "wrong-value", "2 points"],
-    [
-        {
-            type: "Rect",
-            points: [
-                [1, 2],
-                [3, Number.NaN],
-            ],
-        },
-        "wrong-value",
-        "points",
-    ],
-    [
-        {
-            type: "Rect",
-            points: [
-                [1, 2],
-                [300, 400],
-            ],
-            configuration: {},
-        },
-        "wrong-option",
-        "both",
-    ],
-    [
-        {
-            type: "Rect",
-            name: "a",
-            configuration: {
-                b: [
-                    [1, 1],
-                    [500, 500],
-                ],
-            },
-        },
-        "configuration-refused",
-        "geometry",
-    ],
+    [{ type: "Rect", points: at("1,2 3,NaN") }, "wrong-value", "points"],
+    [{ type: "Rect", points: at("1,2 300,400"), configuration: {} }, "wrong-option", "both"],
+    [{ type: "Rect", name: "a", configuration: { b: at("1,1 500,500") } }, "configuration-refused", "geometry"],
     [
         { type: "Polygon", name: "p", configuration: { p: Array.from({ length: 21 }, (_, i) => [i, i * i]) } },
         "configuration-refused",
@@ -108,50 +64,40 @@ async function refused(page, call, argument) {
     );
 }
 
-async function withOneRule({ browser, address }, run) {
-    const { page, complaints, close } = await openPage(browser, address, "test/view.html");
-    await page.waitForFunction("window.ready");
-    await page.evaluate("start()");
-    await page.evaluate((rule) => window.canvas.load(rule), file([rule("there")]));
-    const before = await page.evaluate("canvas.saveText()");
-    await run(page);
-    equal(await page.evaluate("canvas.saveText()"), before, "the rules after what was refused");
-    equal(complaints, [], "the browser's complaints");
-    await close();
+function refusalTest(name, run) {
+    viewTest(name, {}, async (page) => {
+        await page.evaluate((rule) => window.canvas.load(rule), file([rule("there")]));
+        const before = await page.evaluate("canvas.saveText()");
+        await run(page);
+        equal(await page.evaluate("canvas.saveText()"), before, "the rules after what was refused");
+    });
 }
 
-test("wrong options are refused with a reason", (session) =>
-    withOneRule(session, async (page) => {
-        for (const [options, reason, word] of WRONG_ADDS) {
-            const answer = await refused(page, "add", options);
-            equal([answer?.own, answer?.reason], [true, reason], `the refusal of ${JSON.stringify(options)}`);
-            isTrue(answer.message.includes(word), `"${answer.message}" names ${word}`);
-        }
-        equal((await refused(page, "select", "nobody"))?.reason, "unknown-rule", "the refusal of an unknown name");
-    }));
+/** Rows of what is given, the reason of its refusal, and a word of the message. */
+async function expectRefusals(page, call, rows) {
+    for (const [given, reason, word] of rows) {
+        const answer = await refused(page, call, given);
+        equal([answer?.own, answer?.reason], [true, reason], `the refusal of ${JSON.stringify(given)}`);
+        isTrue(answer.message.includes(word), `"${answer.message}" names ${word}`);
+    }
+}
 
-test("wrong rules files are refused whole", (session) =>
-    withOneRule(session, async (page) => {
-        for (const [source, reason, word] of WRONG_FILES) {
-            const answer = await refused(page, "load", source);
-            equal([answer?.own, answer?.reason], [true, reason], `the refusal of ${JSON.stringify(source)}`);
-            isTrue(answer.message.includes(word), `"${answer.message}" names ${word}`);
-        }
-        const { refused: named } = await refused(page, "load", WRONG_FILES[4][0]);
-        equal(
-            named.map(({ index, reason }) => [index, reason]),
-            [
-                [1, "duplicate-name"],
-                [2, "unknown-type"],
-            ],
-            "the refused rules",
-        );
-    }));
+refusalTest("wrong options are refused with a reason", async (page) => {
+    await expectRefusals(page, "add", WRONG_ADDS);
+    equal((await refused(page, "select", "nobody"))?.reason, "unknown-rule", "the refusal of an unknown name");
+});
 
-test("a rules file keeps what this version does not know, in place", async ({ browser, address }) => {
-    const { page, close } = await openPage(browser, address, "test/view.html");
-    await page.waitForFunction("window.ready");
-    await page.evaluate("start({ picture: { width: 800, height: 600 } })");
+refusalTest("wrong rules files are refused whole", async (page) => {
+    await expectRefusals(page, "load", WRONG_FILES);
+    const { refused: named } = await refused(page, "load", WRONG_FILES[4][0]);
+    equal(
+        named.map(({ index, reason }) => `${index} ${reason}`),
+        ["1 duplicate-name", "2 unknown-type"],
+        "the refused rules",
+    );
+});
+
+viewTest("a rules file keeps what this version does not know, in place", {}, async (page) => {
     const source = {
         future: { a: 1 },
         format: "rulecanvas-rules",
@@ -159,43 +105,26 @@ test("a rules file keeps what this version does not know, in place", async ({ br
         picture: { width: 800, height: 600 },
         rules: [
             {
-                note: "first",
+                note: "a",
                 type: "SpotShape",
                 name: "lamp",
                 configuration: { lamp: [[4096, 4096]], radius: 9 },
-                schedule: ["night"],
+                more: [1],
             },
             {
                 type: "OvalShape",
                 name: "tree",
                 option: "word",
-                configuration: {
-                    tree: [
-                        [2048, 1365],
-                        [4096, 3549],
-                    ],
-                },
+                configuration: { tree: at("2048,1365 4096,3549") },
                 visible: true,
                 view: 0,
                 locked: true,
             },
-            {
-                type: "Rect",
-                name: "elsewhere",
-                configuration: {
-                    elsewhere: [
-                        [1433, 1775],
-                        [3481, 3413],
-                    ],
-                },
-                view: 7,
-                enabled: false,
-            },
+            { type: "Rect", name: "far", configuration: { far: at("1433,1775 3481,3413") }, view: 7, enabled: false },
             { type: "Polygon", name: "later", configuration: null },
         ],
         last: [true, null],
     };
     await page.evaluate((source) => window.canvas.load(source), source);
     equal(JSON.parse(await page.evaluate("canvas.saveText()")), source, "the file");
-    await close();
 });
