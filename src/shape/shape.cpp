@@ -10,30 +10,9 @@ CVideoAnalyseShape::CVideoAnalyseShape() : style(Shared(ShapeStyle())), shapeId(
 
 CVideoAnalyseShape::~CVideoAnalyseShape() = default;
 
-CVideoAnalyseShape* CVideoAnalyseShape::HitTestRButtonDown(const ContainerMouseEvent& /*event*/, int& /*hitLevel*/) {
-    return nullptr;
-}
-
-CVideoAnalyseShape* CVideoAnalyseShape::HitTestAltRButtonEvent(const ContainerMouseEvent& /*event*/,
-                                                               int& /*hitLevel*/) {
-    return nullptr;
-}
-
-void CVideoAnalyseShape::HandleLButtonDownEvent(const PointerEvent& /*event*/, int /*hitLevel*/) {}
-
-void CVideoAnalyseShape::HandleRButtonEvent(const ContainerMouseEvent& /*event*/, int /*hitLevel*/) {}
-
-void CVideoAnalyseShape::OnReservedEvent(uint32_t /*first*/, uint32_t /*second*/) {}
-
-void CVideoAnalyseShape::HandleContainerEvent(const ContainerMouseEvent& /*event*/, int /*hitLevel*/) {}
-
 void CVideoAnalyseShape::GetShapePoints(Points& out) const {
     LockGuard guard(lock);
     out = figure.points;
-}
-
-uint32_t CVideoAnalyseShape::AddSubShape(uint32_t /*first*/, uint32_t /*second*/, uint32_t /*third*/) {
-    return 0;
 }
 
 bool CVideoAnalyseShape::SelectShape(bool select, int /*mode*/) {
@@ -47,12 +26,6 @@ void CVideoAnalyseShape::SetSelectedState(bool select) {
     MarkClaimStale();
 }
 
-void CVideoAnalyseShape::RemoveSubShape(ShapeID /*id*/) {}
-
-CVideoAnalyseShape* CVideoAnalyseShape::FindSubShape(ShapeID /*id*/) {
-    return nullptr;
-}
-
 int CVideoAnalyseShape::SetShapeDirection(ShapeID /*id*/, int newDirection) {
     LockGuard guard(lock);
     ChangeStyle([newDirection](ShapeStyle& changed) {
@@ -60,22 +33,6 @@ int CVideoAnalyseShape::SetShapeDirection(ShapeID /*id*/, int newDirection) {
         changed.direction = newDirection;
     });
     return 1;
-}
-
-bool CVideoAnalyseShape::RestartDrawing() {
-    return true;
-}
-
-void CVideoAnalyseShape::ShowShape(bool show) {
-    visible = show;
-}
-
-bool CVideoAnalyseShape::MoveShape(float /*dx*/, float /*dy*/) {
-    return false;
-}
-
-bool CVideoAnalyseShape::BuildDragPoints(int /*index*/, const PointF& /*current*/, Points& /*out*/) {
-    return false;
 }
 
 bool CVideoAnalyseShape::GetPressPoint(PointF& out) const {

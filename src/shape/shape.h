@@ -34,29 +34,33 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
 
     /// The hit tests return the shape that answers, or null, and write the level only on a hit.
     virtual CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) = 0;
-    virtual CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel);
-    virtual CVideoAnalyseShape* HitTestAltRButtonEvent(const ContainerMouseEvent& event, int& hitLevel);
-    virtual void HandleLButtonDownEvent(const PointerEvent& event, int hitLevel);
-    virtual void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel);
-    virtual void OnReservedEvent(uint32_t first, uint32_t second);
+    virtual CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& /*event*/, int& /*hitLevel*/) {
+        return nullptr;
+    }
+    virtual CVideoAnalyseShape* HitTestAltRButtonEvent(const ContainerMouseEvent& /*event*/, int& /*hitLevel*/) {
+        return nullptr;
+    }
+    virtual void HandleLButtonDownEvent(const PointerEvent& /*event*/, int /*hitLevel*/) {}
+    virtual void HandleRButtonEvent(const ContainerMouseEvent& /*event*/, int /*hitLevel*/) {}
+    virtual void OnReservedEvent(uint32_t /*first*/, uint32_t /*second*/) {}
     /// Moves and keys, offered to composite shapes.
-    virtual void HandleContainerEvent(const ContainerMouseEvent& event, int hitLevel);
+    virtual void HandleContainerEvent(const ContainerMouseEvent& /*event*/, int /*hitLevel*/) {}
     virtual void GetShapePoints(Points& out) const;
     /// Takes a new configuration; the reason when it is refused.
     virtual Refused SetVideoAnalyseShapeData(const Configuration& configuration) = 0;
     /// Whether a text was copied into the buffer.
     virtual bool GetVideoAnalyseShapeConfigData(char* buffer, int size) = 0;
     virtual void ClearShape() = 0;
-    virtual uint32_t AddSubShape(uint32_t first, uint32_t second, uint32_t third);
+    virtual uint32_t AddSubShape(uint32_t /*first*/, uint32_t /*second*/, uint32_t /*third*/) { return 0; }
     virtual bool SelectShape(bool select, int mode);
     virtual void SetSelectedState(bool select);
-    virtual void RemoveSubShape(ShapeID id);
-    virtual CVideoAnalyseShape* FindSubShape(ShapeID id);
+    virtual void RemoveSubShape(ShapeID /*id*/) {}
+    virtual CVideoAnalyseShape* FindSubShape(ShapeID /*id*/) { return nullptr; }
     virtual int SetShapeDirection(ShapeID id, int newDirection);
-    virtual bool RestartDrawing();
-    virtual void ShowShape(bool show);
-    virtual bool MoveShape(float dx, float dy);
-    virtual bool BuildDragPoints(int index, const PointF& current, Points& out);
+    virtual bool RestartDrawing() { return true; }
+    virtual void ShowShape(bool show) { visible = show; }
+    virtual bool MoveShape(float /*dx*/, float /*dy*/) { return false; }
+    virtual bool BuildDragPoints(int /*index*/, const PointF& /*current*/, Points& /*out*/) { return false; }
     virtual bool GetPressPoint(PointF& out) const;
     virtual void SetShapePoints(Points newPoints);
     virtual void SetSubShapeShowName(ShapeID id, const char* text);
