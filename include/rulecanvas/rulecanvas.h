@@ -27,8 +27,8 @@
  *     The mouse handler must not run while another thread creates, deletes or redraws shapes of the same container.
  *     The draw handler may run on a thread of its own beside all per-container calls. Callbacks arrive on the thread
  *     of the call that caused them; any function may be called from inside a callback, even one that ends the speaking
- *     shape or its container. A callback must not wait for another thread that is inside the library: client
- *     rectangles are asked, and the capture is given back, while the container is locked against deletion.
+ *     shape or its container. A callback must not wait for another thread that is inside the library: a figure
+ *     that is deleted gives the capture back while the container is locked.
  *  9. Units. Points are pixels of a view's client area, origin at the top left, y downwards. Configuration texts carry
  *     whole numbers on a grid of 0..8191 over the view's width and over its height; loading rounds them to whole
  *     pixels. A client rectangle whose width or height is 0 or negative is that of a view without a size: nothing is
