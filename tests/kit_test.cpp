@@ -42,10 +42,8 @@ struct Person {
     Person() { editor.Library().SetVideoSize(View.width, View.height); }
 
     Person& Draw(const char* type, const char* option = "", const char* name = "") {
-        Rule look;
-        look.type = type;
+        Rule look = MakeRule(type, name);
         look.option = option;
-        look.name = name;
         EXPECT_TRUE(editor.StartDrawing(look, false, problem)) << problem;
         return *this;
     }
@@ -75,13 +73,6 @@ struct Person {
 
     size_t Count() const { return editor.RulesToSave().size(); }
     std::string Geometry(size_t index) const { return editor.RulesToSave().at(index).configuration; }
-    std::vector<std::string> Names() const {
-        std::vector<std::string> names;
-        for (const Rule& rule : editor.RulesToSave()) {
-            names.push_back(rule.name);
-        }
-        return names;
-    }
 };
 
 /// Draws one figure of a type so that it is complete.
@@ -407,7 +398,7 @@ TEST(RuleEditor, BringsEveryTypeBackFromAFile) {
         Person other;
         ASSERT_TRUE(other.editor.Load(read->rules, problem)) << problem;
         EXPECT_EQ(other.editor.RulesToSave(), file.rules) << type.type;
-        EXPECT_EQ(person.Names()[0], std::string(type.title) + " 1");
+        EXPECT_EQ(file.rules[0].name, std::string(type.title) + " 1");
     }
 }
 

@@ -66,6 +66,15 @@ size_t ActInside(ScenarioHost& host, ShapeID shape, const Action& action, size_t
     return seen;
 }
 
+/// Acts inside the callback of that number, from 1, among those that write this down.
+void ActInsideOf(ScenarioHost& host, const std::string& entry, int number, std::function<void()> action) {
+    host.onEntry = [=, seen = 0](const std::string& now) mutable {
+        if (now == entry && ++seen == number) {
+            action();
+        }
+    };
+}
+
 /// What is written down when a shape is drawn anew by one drag.
 Lines DrawnAnew(ScenarioHost& host, ShapeID shape) {
     host.container.RedrawShape(shape);
@@ -109,15 +118,10 @@ TEST(Callbacks, LetsTheLatestWordOfTheHostStand) {
         const ShapeID shape = host.Add("Rect", "", "EnableRBtnDelete");
         host.Drag({100, 100}, {200, 200});
         host.TakeLog();
-        bool done = false;
-        const std::string wanted = inside;
-        host.onEntry = [&](const std::string& entry) {
-            if (!done && entry == wanted) {
-                done = true;
-                host.container.RedrawShape(shape);
-                host.Press(150, 150);
-            }
-        };
+        ActInsideOf(host, inside, 1, [&] {
+            host.container.RedrawShape(shape);
+            host.Press(150, 150);
+        });
         Act(host, gesture);
         EXPECT_EQ(Heard(host), heard) << inside;
         host.onEntry = nullptr;
@@ -134,22 +138,20 @@ TEST(Callbacks, AStepDoesNotBringBackTheFigureThatTheHostReplaced) {
             const ShapeID shape = host.Add(type);
             host.Drag({100, 100}, {200, 200});
             host.Press(150, 150);
-            int seen = 0;
-            host.onEntry = [&](const std::string& entry) {
-                if (entry == "client rect" && ++seen == asked) {
-                    host.Release(150, 150);
-                    host.container.RedrawShape(shape);
-                    host.Drag({100, 100}, {180, 190});
-                    host.Press(140, 145);
-                }
-            };
+            bool acted = false;
+            ActInsideOf(host, "client rect", asked, [&] {
+                acted = true;
+                host.Release(150, 150);
+                host.container.RedrawShape(shape);
+                Act(host, "drag 100 100 180 190 press 140 145");
+            });
             host.Move(155, 155);
             host.onEntry = nullptr;
             PointF first{};
             PointF second{};
             std::sscanf(host.Config(shape).c_str(), "{\"rule\":[[%f,%f],[%f,%f]]}", &first.x, &first.y, &second.x,
                         &second.y);
-            const char* size = seen < asked ? "(100,100)" : "(80,90)"; // fewer questions than that
+            const char* size = acted ? "(80,90)" : "(100,100)"; // fewer questions than that
             EXPECT_EQ(Written({second.x - first.x, second.y - first.y}), size) << type << asked;
         }
     }
@@ -161,20 +163,19 @@ TEST(Callbacks, AStepDoesNotGoOnWithADrawingThatTheHostBeganAnew) {
             ScenarioHost host;
             const ShapeID shape = host.Add(type);
             host.Press(100, 100);
-            int seen = 0;
-            host.onEntry = [&](const std::string& entry) {
-                if (entry == "client rect" && ++seen == asked) {
-                    host.container.RedrawShape(shape);
-                    host.Press(300, 300);
-                }
-            };
+            bool acted = false;
+            ActInsideOf(host, "client rect", asked, [&] {
+                acted = true;
+                host.container.RedrawShape(shape);
+                host.Press(300, 300);
+            });
             type == std::string("Rect") ? host.Move(200, 200) : host.Click(200, 200);
             host.onEntry = nullptr;
             std::string drawn;
             for (const std::string& call : host.Paint()) {
                 drawn += call;
             }
-            EXPECT_TRUE(seen < asked || drawn.find("(100,100)") == std::string::npos) << type << asked << drawn;
+            EXPECT_TRUE(!acted || drawn.find("(100,100)") == std::string::npos) << type << asked << drawn;
         }
     }
 }
@@ -188,12 +189,7 @@ TEST(Callbacks, AListenerThatIsGoneIsNotCalled) {
     const ShapeID second = host.Add("Rect");
     host.Press(110, 110);
     host.TakeLog();
-    host.onEntry = [&](const std::string& entry) {
-        if (entry == "capture off") {
-            host.onEntry = nullptr;
-            host.container.DeleteShape(second);
-        }
-    };
+    ActInsideOf(host, "capture off", 1, [&] { host.container.DeleteShape(second); });
     host.Release(200, 200);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture off", "capture off", "state rule 2>3"})) << "of the first alone";
 }
@@ -205,11 +201,8 @@ TEST(Callbacks, AShapeThatIsDeletedBetweenItsHitAndThePressDoesNotAnswer) {
     Act(host, "click 50 50 click 100 50 click 100 0 click 0 0 click 0 100 click 120 100");
     host.Click(120, 40); // whose closing edge crosses another
     host.TakeLog();
-    host.onEntry = [&](const std::string& entry) {
-        if (entry == "state rule 2>1") { // while the press looks for the figure it hits
-            host.container.DeleteShape(figure);
-        }
-    };
+    // While the press looks for the figure it hits.
+    ActInsideOf(host, "state rule 2>1", 1, [&] { host.container.DeleteShape(figure); });
     host.RightPress(150, 150);
     EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>1", "capture off", "capture off"})) << "one of each";
 }

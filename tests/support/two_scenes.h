@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace rulecanvas::test {
 
@@ -139,29 +140,23 @@ class TwoScenes {
         const int which = Pick(6);
         const int place = Pick(20);
         Both([&](CVideoAnalyseContainer& container) {
-            int at = 0;
-            for (const ShapePtr& shape : container.ShapesInOrder()) {
-                if (at++ != place) {
-                    continue;
-                }
-                const ShapeID id = shape->GetShapeId();
-                switch (which) {
-                case 0:
-                    container.DeleteShape(id);
-                    break;
-                case 1:
-                    container.EnableShape(id, shape->IsEnabled() == (at % 2 == 0));
-                    break;
-                case 2:
-                    container.SelectShape(id, at % 2 == 0);
-                    break;
-                case 3:
-                    container.RedrawShape(id);
-                    break;
-                default:
-                    container.SetShapeMaxPtNum(id, at % 4, 3);
-                    break;
-                }
+            const auto snapshot = container.ShapesInOrder();
+            const std::vector<ShapePtr> shapes(snapshot.begin(), snapshot.end());
+            if (place >= static_cast<int>(shapes.size())) {
+                return;
+            }
+            const ShapePtr& shape = shapes[static_cast<size_t>(place)];
+            const ShapeID id = shape->GetShapeId();
+            if (which == 0) {
+                container.DeleteShape(id);
+            } else if (which == 1) {
+                container.EnableShape(id, shape->IsEnabled() == (place % 2 == 0));
+            } else if (which == 2) {
+                container.SelectShape(id, place % 2 == 0);
+            } else if (which == 3) {
+                container.RedrawShape(id);
+            } else {
+                container.SetShapeMaxPtNum(id, place % 4, 3);
             }
         });
     }
