@@ -147,6 +147,7 @@ TEST(Callbacks, AStepDoesNotBringBackTheFigureThatTheHostReplaced) {
             });
             host.Move(155, 155);
             host.onEntry = nullptr;
+            EXPECT_TRUE(acted || asked > 1) << type;
             PointF first{};
             PointF second{};
             std::sscanf(host.Config(shape).c_str(), "{\"rule\":[[%f,%f],[%f,%f]]}", &first.x, &first.y, &second.x,
@@ -171,6 +172,7 @@ TEST(Callbacks, AStepDoesNotGoOnWithADrawingThatTheHostBeganAnew) {
             });
             type == std::string("Rect") ? host.Move(200, 200) : host.Click(200, 200);
             host.onEntry = nullptr;
+            EXPECT_TRUE(acted || asked > 1) << type;
             std::string drawn;
             for (const std::string& call : host.Paint()) {
                 drawn += call;
