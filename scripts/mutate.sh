@@ -64,7 +64,7 @@ prepare_copy() {
     while IFS= read -r -d '' file; do # a copy that an earlier run left changed is mended
         cmp -s "$file" "$tree/$file" || cp --parents -t "$tree" "$file"
     done < <(git ls-files -z)
-    (cd "$tree" && find src tests include -type f) | grep -vxFf <(git ls-files) | sed "s|^|$tree/|" | xargs -r rm
+    (cd "$tree" && find src tests include -type f) | { grep -vxFf <(git ls-files) || true; } | sed "s|^|$tree/|" | xargs -r rm
     cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
         -DCMAKE_CXX_FLAGS=-w -DRULECANVAS_TESTS=ON >"$tree.log" 2>&1 &&
         build_copy "$tree"

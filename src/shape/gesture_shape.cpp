@@ -135,11 +135,8 @@ void CGestureShape::DeleteByRightButton(int hitLevel) {
 
 bool CGestureShape::MoveShape(float dx, float dy) {
     const ClientRect view = ViewRect();
-    bool moved = false;
-    {
-        LockGuard guard(lock);
-        moved = MovePoints(dx, dy, view);
-    }
+    LockGuard guard(lock);
+    const bool moved = MovePoints(dx, dy, view);
     MarkClaimStale();
     return moved;
 }

@@ -51,10 +51,8 @@ void CVideoAnalyseShape::SetSubShapeShowName(ShapeID id, const char* text) {
 }
 
 void CVideoAnalyseShape::FitToClientRect(const ClientRect& viewZero) {
-    {
-        LockGuard guard(lock);
-        figure.FitTo(viewZero);
-    }
+    LockGuard guard(lock);
+    figure.FitTo(viewZero);
     MarkClaimStale();
 }
 
@@ -94,11 +92,9 @@ void CVideoAnalyseShape::SetShapeColor(int red, int green, int blue, bool select
 
 void CVideoAnalyseShape::SetMaxPtNum(int maximum, int minimum) {
     constexpr int leastMinimum = 3;
-    {
-        LockGuard guard(lock);
-        maxPtNum = maximum;
-        minPtNum = minimum <= leastMinimum ? leastMinimum : minimum;
-    }
+    LockGuard guard(lock);
+    maxPtNum = maximum;
+    minPtNum = minimum <= leastMinimum ? leastMinimum : minimum;
     MarkClaimStale();
 }
 
