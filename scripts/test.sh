@@ -58,6 +58,26 @@ show_failures() {
     done
 }
 
+# Keeps the Wine server of preset $1 busy until `release_wine`: a server that ends with the last program of one test can take
+# the first program of the next one with it.
+hold_wine() {
+    local bits=()
+    [[ $1 == windows-* ]] || return 0
+    if [[ $1 == *-x64 ]]; then bits=(--64); fi
+    exec {wine_holder}> >(exec scripts/run-wine.sh "${bits[@]}" cmd >/dev/null 2>&1) # which waits for words
+    scripts/run-wine.sh "${bits[@]}" cmd /c exit </dev/null >/dev/null 2>&1 || true
+}
+
+# Ends whatever still runs in the prefix of preset $1.
+release_wine() {
+    local prefix=$root/build/wine-prefix
+    [[ $1 == windows-* ]] || return 0
+    if [[ $1 == *-x64 ]]; then prefix+=-64; fi
+    WINEPREFIX=$prefix wineserver --kill </dev/null >/dev/null 2>&1 || true
+    WINEPREFIX=$prefix wineserver --wait </dev/null >/dev/null 2>&1 || true
+    exec {wine_holder}>&-
+}
+
 # Builds a preset and runs its tests.
 test_preset() {
     local preset=$1 log=build/$1/test.log status=0 counts passed failed
@@ -66,7 +86,9 @@ test_preset() {
         printf 'test:       %s could not be built: its tests did not run\n' "$preset"
         return 1
     fi
+    hold_wine "$preset"
     counts=$(ctest --preset "$preset" -V -j2 2>&1 | tee "$log" | awk "$count_cases") || status=$?
+    release_wine "$preset"
     read -r passed failed <<<"$counts"
     if ((passed + failed == 0)); then
         printf 'test:       no test ran in %s\n' "$preset"
