@@ -37,8 +37,8 @@ class ListenerList {
     void Invoke(const Entries& walked, Call call) const {
         const Entry* const end = walked.data() + walked.size();
         for (const Entry* next = walked.data(); next != end; ++next) {
-            if (end - next > FetchedAhead) {
-                Fetch(next[FetchedAhead].listener.get());
+            if (end - next > FetchedAhead && next[FetchedAhead].listener != nullptr) {
+                Fetch(*next[FetchedAhead].listener);
             }
             if (next->listener != nullptr && ((*next->listener).*ticketOf) == next->ticket) {
                 call(*next->listener);
@@ -51,10 +51,10 @@ class ListenerList {
     /// longer than the calls.
     static constexpr std::ptrdiff_t FetchedAhead = 2;
 
-    static void Fetch(const CVideoAnalyseShape* listener) {
+    static void Fetch(const CVideoAnalyseShape& listener) {
         constexpr size_t cacheLine = 64;
-        const char* const begin = reinterpret_cast<const char*>(listener);
-        for (size_t at = 0; at < 5 * cacheLine; at += cacheLine) {
+        const char* const begin = reinterpret_cast<const char*>(&listener);
+        for (size_t at = 0; at < sizeof listener; at += cacheLine) {
             __builtin_prefetch(begin + at);
         }
     }
