@@ -1,5 +1,6 @@
 // Bytes of the heap that a figure takes up, in a container that has been painted and pressed.
 
+#include "plain_surface.h"
 #include "scene.h"
 
 #include <malloc.h>
@@ -25,13 +26,12 @@ void Memory(benchmark::State& state) {
     const std::vector<std::string> configurations = ConfigurationsOf(Kind::Polygon, CountOf(state));
     MeasureApart(state, [&] {
         Scene scene(Kind::Polygon);
-        PlainSurface surface;
         const size_t before = BytesInUse();
         for (const std::string& configuration : configurations) {
             scene.container.SelectShape(scene.Load(configuration), false);
         }
         scene.Click(NoFigure);
-        scene.Paint(surface);
+        scene.Paint(TheSurface());
         return BytesInUse() - before;
     });
 }

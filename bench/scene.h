@@ -1,7 +1,6 @@
 #pragma once
 
 #include "figures.h"
-#include "plain_surface.h"
 
 #include <rulecanvas/host.hpp>
 
@@ -23,7 +22,7 @@ class Scene {
     ShapeID Load(const std::string& configuration);
     void Send(MouseCode code, const PointF& at) { container.SendMouse(code, View, at.x, at.y); }
     void Click(const PointF& at);
-    void Paint(PlainSurface& surface) const { container.Paint(View, surface); }
+    void Paint(IContainerGraphics& surface) const { container.Paint(View, surface); }
 
     Container container;
     std::vector<ShapeID> shapes;
