@@ -53,8 +53,9 @@ class ListenerList {
 
     static void Fetch(const CVideoAnalyseShape& listener) {
         constexpr size_t cacheLine = 64;
+        constexpr size_t seenByPaint = 4 * cacheLine;
         const char* const begin = reinterpret_cast<const char*>(&listener);
-        for (size_t at = 0; at < sizeof listener; at += cacheLine) {
+        for (size_t at = 0; at < seenByPaint; at += cacheLine) {
             __builtin_prefetch(begin + at);
         }
     }
