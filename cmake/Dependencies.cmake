@@ -30,6 +30,9 @@ function(rulecanvas_provide_jsoncpp)
     "${source}/src/lib_json/json_writer.cpp")
   target_include_directories(rulecanvas_jsoncpp PUBLIC "$<BUILD_INTERFACE:${source}/include>")
   target_compile_options(rulecanvas_jsoncpp PRIVATE ${rulecanvas_interface_options})
+  # The sources include <iostream> without using what it declares; its start-up code would link all file streams. This is
+  # the include guard of the GNU library's.
+  target_compile_definitions(rulecanvas_jsoncpp PRIVATE _GLIBCXX_IOSTREAM)
   rulecanvas_mark_as_system(rulecanvas_jsoncpp)
   add_library(JsonCpp::JsonCpp ALIAS rulecanvas_jsoncpp)
 endfunction()
