@@ -3,17 +3,6 @@
 #include "container/container.h"
 
 namespace rulecanvas {
-namespace {
-
-using Guard = std::lock_guard<std::mutex>;
-
-template <class Map, class Key>
-ContainerPtr FindIn(const Map& map, const Key& key) {
-    const auto found = map.find(key);
-    return found == map.end() ? nullptr : found->second;
-}
-
-} // namespace
 
 ContainerRegistry& ContainerRegistry::Instance() {
     static ContainerRegistry registry;
@@ -22,20 +11,14 @@ ContainerRegistry& ContainerRegistry::Instance() {
 
 ContainerRegistry::~ContainerRegistry() {
     EndingShapes ending;
-    for (const auto& [handle, container] : byHandle) {
+    for (const auto& [handle, container] : containers) {
         container->Abandon(ending);
     }
 }
 
 void ContainerRegistry::Insert(const ContainerPtr& container) {
-    const Guard guard(mutex);
-    byAddress.emplace(container.get(), container);
-    try {
-        byHandle.emplace(container->GetHandle(), container);
-    } catch (...) {
-        byAddress.erase(container.get());
-        throw;
-    }
+    const std::lock_guard guard(mutex);
+    containers.emplace(container->GetHandle(), container);
 }
 
 void ContainerRegistry::Erase(uint32_t handle) {
@@ -44,27 +27,22 @@ void ContainerRegistry::Erase(uint32_t handle) {
         return;
     }
     {
-        const Guard guard(mutex);
-        byHandle.erase(handle);
-        byAddress.erase(container.get());
+        const std::lock_guard guard(mutex);
+        containers.erase(handle);
     }
     container->Close();
 }
 
 ContainerPtr ContainerRegistry::Find(uint32_t handle) const {
-    const Guard guard(mutex);
-    return FindIn(byHandle, handle);
-}
-
-ContainerPtr ContainerRegistry::FindByAddress(const void* address) const {
-    const Guard guard(mutex);
-    return FindIn(byAddress, address);
+    const std::lock_guard guard(mutex);
+    const auto found = containers.find(handle);
+    return found == containers.end() ? nullptr : found->second;
 }
 
 std::vector<ContainerPtr> ContainerRegistry::All() const {
-    const Guard guard(mutex);
+    const std::lock_guard guard(mutex);
     std::vector<ContainerPtr> all;
-    for (const auto& [handle, container] : byHandle) {
+    for (const auto& [handle, container] : containers) {
         all.push_back(container);
     }
     return all;

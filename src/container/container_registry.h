@@ -25,11 +25,8 @@ class ContainerRegistry {
     void Insert(const ContainerPtr& container);
     /// Ends the container; nothing happens for an unknown handle.
     void Erase(uint32_t handle);
-    /// Null when unknown.
+    /// Null when unknown: a handle, and a handler of the host, can outlive its container.
     ContainerPtr Find(uint32_t handle) const;
-    /// The container that a host's handler names by its address; a handler can outlive its container and then finds
-    /// null.
-    ContainerPtr FindByAddress(const void* address) const;
     /// In ascending order of handle.
     std::vector<ContainerPtr> All() const;
 
@@ -37,8 +34,7 @@ class ContainerRegistry {
     ContainerRegistry() = default;
 
     mutable std::mutex mutex;
-    std::map<uint32_t, ContainerPtr> byHandle;
-    std::map<const void*, ContainerPtr> byAddress;
+    std::map<uint32_t, ContainerPtr> containers;
 };
 
 } // namespace rulecanvas

@@ -37,8 +37,9 @@ const ContainerHandlerTable Table{&Destroy, &Kind, &Invoke, &Equals, &Clone};
 
 } // namespace
 
-HandlerHolder::HandlerHolder(void* container, HandlerOperation operation)
-    : handler(new ContainerHandler{&Table, container, reinterpret_cast<void*>(operation)}) {}
+HandlerHolder::HandlerHolder(ContainerHandle container, HandlerOperation operation)
+    : handler(new ContainerHandler{&Table, reinterpret_cast<void*>(uintptr_t{container}),
+                                   reinterpret_cast<void*>(operation)}) {}
 
 HandlerHolder::~HandlerHolder() {
     Destroy(handler, FreeObject);

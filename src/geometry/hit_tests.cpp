@@ -47,12 +47,8 @@ bool NearSegment(const PointF& a, const PointF& b, const PointF& p) {
 }
 
 bool OnPath(const Points& path, const PointF& p) {
-    for (size_t i = 1; i < path.size(); ++i) {
-        if (NearSegment(path[i - 1], path[i], p)) {
-            return true;
-        }
-    }
-    return false;
+    const auto isNear = [&](const PointF& from, const PointF& to) { return NearSegment(from, to, p); };
+    return std::adjacent_find(path.begin(), path.end(), isNear) != path.end();
 }
 
 bool OnRing(const Points& ring, const PointF& p) {

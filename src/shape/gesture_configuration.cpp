@@ -5,14 +5,6 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
-namespace {
-
-constexpr int PathMaximum = 20;
-
-} // namespace
-
 Refused CGestureShape::SetVideoAnalyseShapeData(const Configuration& configuration) {
     bool isStyled = false;
     try {
@@ -30,7 +22,7 @@ void CGestureShape::TakeStyle(const char* option) {
     if (TakesStyle()) {
         LockGuard guard(lock);
         ChangeStyle([&](ShapeStyle& changed) { ReadStyle(option, changed); });
-        maxPtNum = style->xArrowLine ? PathMaximum : maxPtNum;
+        maxPtNum = style->xArrowLine ? LongestPath : maxPtNum;
     }
 }
 
@@ -87,7 +79,7 @@ bool CGestureShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
     Json::Value root;
     {
         LockGuard guard(lock);
-        Json::Value geometry = WriteGeometry(figure.points, figure.fitted);
+        Json::Value geometry = WriteGeometry();
         if (geometry.isNull()) {
             return false;
         }

@@ -5,8 +5,6 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
 void CGestureShape::Enter(ShapeState next) {
     state = next;
     ++life;

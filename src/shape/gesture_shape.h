@@ -38,7 +38,8 @@ class CGestureShape : public CVideoAnalyseShape {
   protected:
     // The steps of a gesture, called with the lock held. They change the figure and speak to no one.
 
-    /// The first press.
+    /// Whether the first press may be there.
+    virtual bool MayStart(const PointerEvent& press) const { return AcceptsPoint(press.position, press.view); }
     virtual Outcome StartDrawing(const PointerEvent& press) = 0;
     /// A further press.
     virtual Outcome ContinueDrawing(const PointerEvent& /*press*/) { return {}; }
@@ -47,13 +48,21 @@ class CGestureShape : public CVideoAnalyseShape {
     /// A move or release that a shape which waits to be drawn still listens to.
     virtual Outcome ResumeDrawing(const PointerEvent& /*position*/) { return {}; }
     virtual Outcome FinishWaiting(const PointerEvent& /*release*/) { return {}; }
-    /// A press that grabs the finished figure, or not.
-    virtual Outcome StartEditing(const PointerEvent& press, int hitLevel) = 0;
-    virtual Outcome MoveTo(const PointerEvent& position);
+    /// A press that grabs a vertex of the finished figure, or the whole by its inside, or nothing.
+    virtual Outcome StartEditing(const PointerEvent& press, int hitLevel);
+    virtual Outcome MoveTo(const PointerEvent& position) {
+        FollowMouse(AimOf(position), position.view);
+        return {};
+    }
     virtual Outcome EndMove(const PointerEvent& /*release*/) { return Finish(); }
     /// Drags the grabbed point.
-    virtual Outcome AdjustTo(const PointerEvent& position);
-    virtual Outcome EndAdjust(const PointerEvent& /*release*/) { return Finish(); }
+    virtual Outcome AdjustTo(const PointerEvent& position) {
+        DragPoint(figure.grabbedIndex, AimOf(position), position.view);
+        return {};
+    }
+    virtual Outcome EndAdjust(const PointerEvent& release) { return EndMove(release); }
+    /// Where a drag of the finished figure goes.
+    virtual PointF AimOf(const PointerEvent& position) const { return position.ClampedFrom(figure.anchorPoint); }
 
     // What the steps lead to.
 
@@ -85,7 +94,7 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Reads the figure and enters the state that it has.
     virtual Refused Load(Loading& loading) = 0;
     /// Null when there is nothing to write.
-    virtual Json::Value WriteGeometry(const Points& points, const ViewSize& view) const = 0;
+    virtual Json::Value WriteGeometry() const = 0;
     virtual CopyRule RuleOfCopying() const = 0;
     /// Whether what is written depends on the view's size.
     virtual bool WritesPlaces() const { return true; }
@@ -160,8 +169,6 @@ class CGestureShape : public CVideoAnalyseShape {
     void StopListening();
 
     bool CopyFitted(PaintPass& pass);
-    void OnMouseMove(const PointerEvent& event);
-    void OnButtonUp(const PointerEvent& event);
 
     void TakeStyle(const char* option);
     Refused Configure(const Configuration& configuration);

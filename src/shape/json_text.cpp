@@ -67,18 +67,6 @@ std::string WriteJson(const Json::Value& value) {
     return out.str();
 }
 
-const Json::Value& MemberOf(const Json::Value& root, const std::string& key) {
-    return root.isObject() ? root[key] : Json::Value::nullSingleton();
-}
-
-bool IsArrayOf(const Json::Value& value, unsigned count) {
-    return value.isArray() && value.size() == count;
-}
-
-bool IsPlainInteger(const Json::Value& value) {
-    return value.type() == Json::intValue && value.isInt();
-}
-
 bool CopyText(const std::string& text, CopyRule rule, char* buffer, int size) {
     const size_t length = rule == CopyRule::Line ? text.rfind('\n') : text.size();
     const size_t room = size < 0 ? 0 : static_cast<size_t>(size);

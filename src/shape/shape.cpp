@@ -4,8 +4,6 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
 CVideoAnalyseShape::CVideoAnalyseShape() : style(Shared(ShapeStyle())), shapeId(platform::IssueIdentity(this)) {}
 
 CVideoAnalyseShape::~CVideoAnalyseShape() = default;
@@ -41,8 +39,13 @@ bool CVideoAnalyseShape::GetPressPoint(PointF& out) const {
     return true;
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the shapes that use the list take it over
-void CVideoAnalyseShape::SetShapePoints(Points /*newPoints*/) {}
+void CVideoAnalyseShape::SetShapePoints(Points newPoints) {
+    LockGuard guard(lock);
+    if (TakesPoints(newPoints)) {
+        figure.points = std::move(newPoints);
+    }
+    MarkClaimStale();
+}
 
 void CVideoAnalyseShape::SetSubShapeShowName(ShapeID id, const char* text) {
     if (CVideoAnalyseShape* part = FindSubShape(id)) {

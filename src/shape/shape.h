@@ -120,6 +120,8 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
   protected:
     /// What a shape undoes before it is freed.
     virtual void Dispose() = 0;
+    /// Whether an owner may set these points; asked with the lock held.
+    virtual bool TakesPoints(const Points& /*points*/) const { return false; }
 
     /// Asks the host.
     ClientRect ViewRect() const;

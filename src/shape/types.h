@@ -14,6 +14,18 @@ enum ShapeState : int {
     Adjusting = 5,
 };
 
+/// Numbers of the state report; shapes of other kinds have 0.
+enum ShapeType : int {
+    FreeLineType = 1,
+    HorizontalLineType = 2,
+    VerticalLineType = 3,
+    BrokenLineType = 4,
+    RectangleType = 5,
+};
+
+/// How many points a path may have, unless the host sets another limit.
+constexpr int LongestPath = 20;
+
 /// How strongly a shape claims a press; the strongest claim wins.
 enum HitLevel : int {
     Miss = 0,

@@ -10,11 +10,12 @@ namespace rulecanvas {
 /// it is moved.
 class CRectangleShape : public CBoxShape {
   public:
-    CRectangleShape();
+    CRectangleShape() { shapeType = RectangleType; }
 
     CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
-    void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
-    void SetShapePoints(Points newPoints) override;
+    void HandleRButtonEvent(const ContainerMouseEvent& /*event*/, int hitLevel) override {
+        DeleteByRightButton(hitLevel);
+    }
 
     // For a figure that owns this one; none of this version does.
 
@@ -25,18 +26,26 @@ class CRectangleShape : public CBoxShape {
 
   protected:
     Outcome StartDrawing(const PointerEvent& press) override;
-    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome DrawTo(const PointerEvent& position) override { return AdjustTo(position); }
     Outcome EndDrawing(const PointerEvent& event) override;
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
-    Outcome EndMove(const PointerEvent& release) override;
-    Outcome EndAdjust(const PointerEvent& release) override;
+    Outcome EndMove(const PointerEvent& release) override {
+        return MoveCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
+    }
+    Outcome EndAdjust(const PointerEvent& release) override {
+        return DragCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
+    }
+    bool TakesPoints(const Points& points) const override { return points.size() == figure.points.size(); }
     /// The corners between the anchor and the dragged one.
-    bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
+    bool DragPoint(int /*index*/, const PointF& to, const ClientRect& view) override {
+        return SpanCorners(figure.anchorPoint, to, view, minimumSide);
+    }
 
     void ReadWord(const char* option) override;
     Refused Load(Loading& loading) override;
     int LevelAt(const PointF& press) override;
-    Claim CompleteClaim() const override;
+    /// Beside it only a selected rectangle answers, and selected shapes are asked everywhere.
+    Claim CompleteClaim() const override { return Claim::Around(figure.points, HitReach, false); }
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
     /// Pixels.

@@ -1,13 +1,31 @@
-#include "shapes/scene/big_cross_shape.h"
-
 #include "geometry/grid.h"
 #include "shape/drawing.h"
 #include "shape/shape_factory.h"
+#include "shapes/scene/placed_crosses.h"
 
 namespace rulecanvas {
 namespace {
 
-const bool registered = CShapeFactory::GetInstance().Register("BigCrossShape", &MakeShape<CBigCrossShape>);
+/// Two cross-hairs whose lines span the whole picture, with a dot where they cross.
+///
+/// A configuration gives every cross-hair as two thin bands of the grid, one along each line; the cross-hair runs in
+/// the middle of the band, one unit beside its border.
+class CBigCrossShape final : public CPlacedCrosses {
+    int Maximum() const override { return CrossHairs; }
+    Outcome StartEditing(const PointerEvent& /*press*/, int hitLevel) override {
+        return hitLevel == OnOutline ? Begin(Adjusting) : Outcome{};
+    }
+    void DragCross(PointF& cross, const PointerEvent& position) override { cross = position.ClampedFrom(cross); }
+    /// Where the mouse is, be it outside the view.
+    void DropCross(PointF& cross, const PointerEvent& release) override { cross = release.position; }
+    Points ReadCrosses(const Json::Value& member) override;
+    Json::Value WriteGeometry() const override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+
+    static constexpr int CrossHairs = 2;
+};
+
+const bool registered = Register<CBigCrossShape>("BigCrossShape");
 
 constexpr float DotHalfSide = 5.0F;
 constexpr int BandHalfWidth = 1;
@@ -48,19 +66,6 @@ void DrawCrossHair(const PointF& cross, const ShapeLook& look, IContainerGraphic
 
 } // namespace
 
-Outcome CBigCrossShape::StartEditing(const PointerEvent& /*press*/, int hitLevel) {
-    return hitLevel == OnOutline ? Begin(Adjusting) : Outcome{};
-}
-
-void CBigCrossShape::DragCross(PointF& cross, const PointerEvent& position) {
-    cross = position.ClampedFrom(cross);
-}
-
-/// Where the mouse is, be it outside the view.
-void CBigCrossShape::DropCross(PointF& cross, const PointerEvent& release) {
-    cross = release.position;
-}
-
 /// Bands that are missing, and borders that are missing in one, count as zeros.
 Points CBigCrossShape::ReadCrosses(const Json::Value& member) {
     Points crosses;
@@ -75,13 +80,13 @@ Points CBigCrossShape::ReadCrosses(const Json::Value& member) {
     return crosses;
 }
 
-Json::Value CBigCrossShape::WriteGeometry(const Points& points, const ViewSize& view) const {
+Json::Value CBigCrossShape::WriteGeometry() const {
     Json::Value bands;
-    if (points.size() != CrossHairs) {
+    if (figure.points.size() != CrossHairs) {
         return bands;
     }
-    for (const PointF& cross : points) {
-        const GridPoint grid = ToGrid(cross, view);
+    for (const PointF& cross : figure.points) {
+        const GridPoint grid = ToGrid(cross, figure.fitted);
         bands.append(Band(0, Beside(grid.y, -BandHalfWidth), GridSpan, Beside(grid.y, BandHalfWidth)));
         bands.append(Band(Beside(grid.x, -BandHalfWidth), 0, Beside(grid.x, BandHalfWidth), GridSpan));
     }

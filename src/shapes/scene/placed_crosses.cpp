@@ -15,11 +15,6 @@ ClientRect HitBoxOf(const PointF& cross) {
 
 } // namespace
 
-int CPlacedCrosses::LevelAt(const PointF& press) {
-    figure.grabbedIndex = CrossAt(press);
-    return figure.grabbedIndex < 0 ? Miss : OnOutline;
-}
-
 int CPlacedCrosses::CrossAt(const PointF& press) const {
     const Points& crosses = figure.points;
     for (size_t i = 0; i < crosses.size() && static_cast<int>(i) < Maximum(); ++i) {
@@ -28,14 +23,6 @@ int CPlacedCrosses::CrossAt(const PointF& press) const {
         }
     }
     return -1;
-}
-
-Claim CPlacedCrosses::CompleteClaim() const {
-    return Claim::Around(figure.points, HitReach, false);
-}
-
-Outcome CPlacedCrosses::StartDrawing(const PointerEvent& press) {
-    return ContinueDrawing(press);
 }
 
 Outcome CPlacedCrosses::ContinueDrawing(const PointerEvent& press) {
@@ -48,11 +35,6 @@ Outcome CPlacedCrosses::ContinueDrawing(const PointerEvent& press) {
     }
     figure.points.push_back(press.position);
     return Begin(Drawing);
-}
-
-bool CPlacedCrosses::HasRoom() const {
-    const int count = static_cast<int>(figure.points.size());
-    return count == 0 || count < Maximum();
 }
 
 Outcome CPlacedCrosses::DrawTo(const PointerEvent& position) {
@@ -86,11 +68,6 @@ Outcome CPlacedCrosses::EndAdjust(const PointerEvent& release) {
         DropCross(*cross, release);
     }
     return {Complete, FinishKeepingMouse};
-}
-
-PointF* CPlacedCrosses::GrabbedCross() {
-    const auto index = static_cast<size_t>(figure.grabbedIndex);
-    return figure.grabbedIndex < 0 || index >= figure.points.size() ? nullptr : &figure.points[index];
 }
 
 Refused CPlacedCrosses::Load(Loading& loading) {

@@ -25,7 +25,7 @@ class CPlacedCrosses : public CGestureShape {
     /// The crosses as the member of a configuration gives them; null when it is missing.
     virtual Points ReadCrosses(const Json::Value& member) = 0;
 
-    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome StartDrawing(const PointerEvent& press) override { return ContinueDrawing(press); }
     Outcome ContinueDrawing(const PointerEvent& press) override;
     Outcome DrawTo(const PointerEvent& position) override;
     Outcome EndDrawing(const PointerEvent& release) override;
@@ -35,14 +35,24 @@ class CPlacedCrosses : public CGestureShape {
     bool TakesStyle() const override { return false; }
     Refused Load(Loading& loading) override;
     CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
-    int LevelAt(const PointF& press) override;
-    Claim CompleteClaim() const override;
+    int LevelAt(const PointF& press) override {
+        figure.grabbedIndex = CrossAt(press);
+        return figure.grabbedIndex < 0 ? Miss : OnOutline;
+    }
+
+    Claim CompleteClaim() const override { return Claim::Around(figure.points, HitReach, false); }
 
     /// The cross under the last press, or null.
-    PointF* GrabbedCross();
+    PointF* GrabbedCross() {
+        const auto index = static_cast<size_t>(figure.grabbedIndex);
+        return figure.grabbedIndex < 0 || index >= figure.points.size() ? nullptr : &figure.points[index];
+    }
 
   private:
-    bool HasRoom() const;
+    bool HasRoom() const {
+        const int count = static_cast<int>(figure.points.size());
+        return count == 0 || count < Maximum();
+    }
 };
 
 } // namespace rulecanvas
