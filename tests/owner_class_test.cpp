@@ -54,7 +54,7 @@ struct Owned {
 
     void Press(const PointF& at, int level) {
         const ContainerMouseEvent event{RULECANVAS_MOUSE_LEFT_DOWN, OwnersView, 0, at.x, at.y, 0, 0};
-        shape->HandleLButtonDownEvent(PointerEvent(event, GridRect), level);
+        shape->HandleLButtonDownEvent(PointerEvent{event, GridRect}, level);
     }
 
     void Send(uint32_t code, const PointF& at) { container.OnMouseEvent({code, OwnersView, 0, at.x, at.y, 0, 0}); }

@@ -4,7 +4,6 @@
 
 #include "container/container.h"
 #include "container/container_registry.h"
-#include "container/state_report.h"
 #include "shape/json_text.h"
 
 #include <type_traits>
@@ -66,18 +65,12 @@ bool Apply(Container& container, ShapeID id, void (Shape::*operation)(Parameters
     return shape != nullptr;
 }
 
-ContainerHandle Create(void* hostObject) {
-    const auto container = std::make_shared<Container>(hostObject);
-    ContainerRegistry::Instance().Insert(container);
-    return container->GetHandle();
-}
-
 } // namespace
 
 extern "C" {
 
 ContainerHandle RULECANVAS_CALL CreateVideoAnalyseContainer(void* hostObject) {
-    return Guarded([&] { return Create(hostObject); });
+    return Guarded([&] { return ContainerRegistry::Instance().Insert(std::make_shared<Container>(hostObject)); });
 }
 
 void RULECANVAS_CALL ReleaseVideoAnalyseContainer(ContainerHandle container) {
@@ -205,7 +198,7 @@ void RULECANVAS_CALL SetPixelCount(ContainerHandle container, int32_t width, int
 }
 
 void RULECANVAS_CALL GetVideoAnalyseAllShapestates(char* buffer, int32_t size) {
-    Guarded([&] { CopyText(StateReport(ContainerRegistry::Instance().All()), CopyRule::Line, buffer, size); });
+    Guarded([&] { CopyText(ContainerRegistry::Instance().StateReport(), CopyRule::Line, buffer, size); });
 }
 
 } // extern "C"

@@ -2,7 +2,6 @@
 
 #include "container/container_registry.h"
 #include "platform/trace.h"
-#include "shape/text.h"
 
 namespace rulecanvas {
 namespace {
@@ -45,17 +44,14 @@ CVideoAnalyseContainer::~CVideoAnalyseContainer() {
 
 void CVideoAnalyseContainer::Close() {
     closed = true;
+    host.Forget();
     DeleteAllShapes();
     ForgetHost();
 }
 
-void CVideoAnalyseContainer::Abandon(EndingShapes& ending) {
-    ForgetHost(); // which may be gone, or in the middle of unloading
-    EndShapes(ending);
-}
-
 void CVideoAnalyseContainer::ForgetHost() {
     closed = true;
+    host.Forget();
     const CDelegate none{nullptr, nullptr};
     notifyDelegate.Set(none);
     adjustPointDelegate.Set(none);
@@ -64,26 +60,10 @@ void CVideoAnalyseContainer::ForgetHost() {
     translateDelegate.Set(none);
 }
 
-void CVideoAnalyseContainer::SetTip(ViewID view, const char* text) {
-    const std::lock_guard guard(tipMutex);
-    tips[view] = TextOrEmpty(text);
-}
-
-void CVideoAnalyseContainer::SetPixelCount(int width, int height) {
-    pixelCountWidth = width;
-    pixelCountHeight = height;
-}
-
 ClientRect CVideoAnalyseContainer::GetClientRect(ViewID view) {
     ClientRect rect{};
     clientRectDelegate(view, &rect);
     return rect;
-}
-
-void CVideoAnalyseContainer::SendHostHint(uint32_t value) {
-    if (!closed) {
-        host.SetInteractionHint(value);
-    }
 }
 
 void CVideoAnalyseContainer::unRegisterWinMouseEvent(MouseListenerKind kind, CVideoAnalyseShape& listener) {

@@ -7,6 +7,7 @@
 #include "container/press_index.h"
 #include "container/shape_map.h"
 #include "shape/shape_container.h"
+#include "shape/text.h"
 
 #include <atomic>
 #include <map>
@@ -34,7 +35,10 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     /// Ends the shapes, then forgets the host.
     void Close();
     /// The same without the host hearing of it, for a container that goes with the library.
-    void Abandon(EndingShapes& ending);
+    void Abandon(EndingShapes& ending) {
+        ForgetHost(); // which may be gone, or in the middle of unloading
+        EndShapes(ending);
+    }
 
     void SetNotifyDelegate(const CDelegate& delegate) { notifyDelegate.Set(delegate); }
     void SetAdjustPointDelegate(const CDelegate& delegate) { adjustPointDelegate.Set(delegate); }
@@ -57,10 +61,18 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     bool RedrawShape(ShapeID id);
     ShapeID GetSelectedShape();
     void SetShowName(ShapeID id, const char* text);
-    void SetTip(ViewID view, const char* text);
+    void SetTip(ViewID view, const char* text) {
+        const std::lock_guard guard(tipMutex);
+        tips[view] = TextOrEmpty(text);
+    }
+
     /// Refits every shape to the view.
     void InvalidateAll();
-    void SetPixelCount(int width, int height);
+    void SetPixelCount(int width, int height) {
+        pixelCountWidth = width;
+        pixelCountHeight = height;
+    }
+
     /// The shape, or the part of a shape, of that identity; null when unknown.
     ShapePtr DeepFind(ShapeID id) const;
     ShapeSnapshot ShapesInOrder() const { return shapes.InOrder(); }
@@ -76,7 +88,7 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     void unRegisterWinMouseEvent(MouseListenerKind kind, CVideoAnalyseShape& listener) override;
     void RegisterDrawEvent(const ShapePtr& listener) override { drawListeners.Register(listener); }
     void unRegisterDrawEvent(CVideoAnalyseShape& listener) override { drawListeners.Unregister(listener); }
-    void SendHostHint(uint32_t value) override;
+    void SendHostHint(uint32_t value) override { host.Call(RULECANVAS_HOST_SET_INTERACTION_HINT, value); }
     bool HasNotifyDelegate() const override { return notifyDelegate.IsSet(); }
     void Notify(const std::string& event) override { notifyDelegate(event.c_str(), 0); }
     ViewSize GetPixelCount() override { return ViewSize{pixelCountWidth, pixelCountHeight}; }
@@ -101,7 +113,7 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     void DispatchKey(const ContainerMouseEvent& event);
     ListenerList& ListenersOf(MouseListenerKind kind);
     void Feed(MouseListenerKind kind, const ContainerMouseEvent& event);
-    void RequestRedraw();
+    void RequestRedraw() { host.Call(RULECANVAS_HOST_REQUEST_REDRAW, 0); }
     void OfferToComposites(const ContainerMouseEvent& event);
 
     std::string TipOf(ViewID view) const;
@@ -136,7 +148,7 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     mutable std::mutex tipMutex;
     std::map<ViewID, std::string> tips;
     TextStyle containerTextStyle{OpaqueColour(255, 255, 0), 0.0F, "STHeitiSC-Light"};
-    const HostCalls host;
+    HostObject host;
     /// Held while shapes are inserted, deleted or refitted, also across their calls: the thread that holds it may call
     /// back.
     platform::ContainerMutex containerMutex;

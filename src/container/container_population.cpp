@@ -3,7 +3,6 @@
 #include "container/container.h"
 #include "platform/trace.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
 
 namespace rulecanvas {
 namespace {

@@ -1,6 +1,8 @@
 #include "container/container_registry.h"
 
 #include "container/container.h"
+#include "shape/json_text.h"
+#include "shape/notifications.h"
 
 namespace rulecanvas {
 
@@ -16,36 +18,38 @@ ContainerRegistry::~ContainerRegistry() {
     }
 }
 
-void ContainerRegistry::Insert(const ContainerPtr& container) {
+ContainerHandle ContainerRegistry::Insert(const ContainerPtr& container) {
     const std::lock_guard guard(mutex);
     containers.emplace(container->GetHandle(), container);
+    return container->GetHandle();
 }
 
-void ContainerRegistry::Erase(uint32_t handle) {
-    const ContainerPtr container = Find(handle);
-    if (container == nullptr) {
-        return;
+void ContainerRegistry::Erase(ContainerHandle handle) {
+    std::unique_lock guard(mutex);
+    const auto erased = containers.extract(handle);
+    guard.unlock();
+    if (!erased.empty()) {
+        erased.mapped()->Close();
     }
-    {
-        const std::lock_guard guard(mutex);
-        containers.erase(handle);
-    }
-    container->Close();
 }
 
-ContainerPtr ContainerRegistry::Find(uint32_t handle) const {
+ContainerPtr ContainerRegistry::Find(ContainerHandle handle) const {
     const std::lock_guard guard(mutex);
     const auto found = containers.find(handle);
     return found == containers.end() ? nullptr : found->second;
 }
 
-std::vector<ContainerPtr> ContainerRegistry::All() const {
-    const std::lock_guard guard(mutex);
-    std::vector<ContainerPtr> all;
-    for (const auto& [handle, container] : containers) {
-        all.push_back(container);
+std::string ContainerRegistry::StateReport() const {
+    std::unique_lock guard(mutex);
+    const auto reported = containers; // the shapes are asked without the lock
+    guard.unlock();
+    Json::Value report;
+    for (const auto& [handle, container] : reported) {
+        for (const ShapePtr& shape : container->ShapesInOrder()) {
+            report.append(StateOf(*shape));
+        }
     }
-    return all;
+    return WriteJson(report);
 }
 
 } // namespace rulecanvas

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <cstdint>
+#include "rulecanvas/rulecanvas.h"
+
 #include <map>
 #include <memory>
 #include <mutex>
-#include <vector>
+#include <string>
 
 namespace rulecanvas {
 
@@ -22,19 +23,20 @@ class ContainerRegistry {
     ContainerRegistry(const ContainerRegistry&) = delete;
     ContainerRegistry& operator=(const ContainerRegistry&) = delete;
 
-    void Insert(const ContainerPtr& container);
+    /// The container's handle.
+    ContainerHandle Insert(const ContainerPtr& container);
     /// Ends the container; nothing happens for an unknown handle.
-    void Erase(uint32_t handle);
+    void Erase(ContainerHandle handle);
     /// Null when unknown: a handle, and a handler of the host, can outlive its container.
-    ContainerPtr Find(uint32_t handle) const;
-    /// In ascending order of handle.
-    std::vector<ContainerPtr> All() const;
+    ContainerPtr Find(ContainerHandle handle) const;
+    /// One line of JSON: an array with the state of every shape, in ascending order of handle, or null without shapes.
+    std::string StateReport() const;
 
   private:
     ContainerRegistry() = default;
 
     mutable std::mutex mutex;
-    std::map<uint32_t, ContainerPtr> containers;
+    std::map<ContainerHandle, ContainerPtr> containers;
 };
 
 } // namespace rulecanvas

@@ -38,19 +38,14 @@ const ContainerHandlerTable Table{&Destroy, &Kind, &Invoke, &Equals, &Clone};
 } // namespace
 
 HandlerHolder::HandlerHolder(ContainerHandle container, HandlerOperation operation)
-    : handler(new ContainerHandler{&Table, reinterpret_cast<void*>(uintptr_t{container}),
-                                   reinterpret_cast<void*>(operation)}) {}
-
-HandlerHolder::~HandlerHolder() {
-    Destroy(handler, FreeObject);
-}
+    : handler{&Table, reinterpret_cast<void*>(uintptr_t{container}), reinterpret_cast<void*>(operation)} {}
 
 void HandlerHolder::CopyTo(ContainerHandlerHolder& hostHolder) const {
     if (hostHolder.handler != nullptr) {
         hostHolder.handler->table->destroy(hostHolder.handler, FreeObject);
         hostHolder.handler = nullptr;
     }
-    hostHolder.handler = Clone(handler);
+    hostHolder.handler = Clone(&handler);
 }
 
 } // namespace rulecanvas

@@ -11,15 +11,12 @@ using HandlerOperation = uintptr_t(RULECANVAS_THISCALL*)(void* target, uintptr_t
 class HandlerHolder {
   public:
     HandlerHolder(ContainerHandle container, HandlerOperation operation);
-    ~HandlerHolder();
-    HandlerHolder(const HandlerHolder&) = delete;
-    HandlerHolder& operator=(const HandlerHolder&) = delete;
 
     /// Destroys what the host's holder owns and gives it a copy; without memory it stays empty.
     void CopyTo(ContainerHandlerHolder& hostHolder) const;
 
   private:
-    ContainerHandler* handler;
+    const ContainerHandler handler;
 };
 
 } // namespace rulecanvas

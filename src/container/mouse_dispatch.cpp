@@ -1,13 +1,6 @@
 #include "container/container.h"
 
 namespace rulecanvas {
-namespace {
-
-constexpr uint32_t GrabHint = 4;
-constexpr uint32_t Redraw = 0;
-constexpr uint16_t EscapeKey = 27;
-
-} // namespace
 
 void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
     if (!enabled) {
@@ -46,7 +39,7 @@ void CVideoAnalyseContainer::DispatchPress(const ContainerMouseEvent& event, Hit
         return shape->HandleRButtonEvent(event, level);
     }
     SetTip(event.viewId, "");
-    shape->HandleLButtonDownEvent(PointerEvent(event, GetClientRect(event.viewId)), level);
+    shape->HandleLButtonDownEvent(PointerEvent{event, GetClientRect(event.viewId)}, level);
 }
 
 void CVideoAnalyseContainer::DispatchMove(const ContainerMouseEvent& event) {
@@ -58,14 +51,16 @@ void CVideoAnalyseContainer::DispatchMove(const ContainerMouseEvent& event) {
 }
 
 void CVideoAnalyseContainer::DispatchCursorQuery(const ContainerMouseEvent& event) {
+    constexpr uint32_t grabHint = 4;
     if (hitLevel == Inside || hitLevel == OnOutline) {
-        SendHostHint(GrabHint);
+        SendHostHint(grabHint);
     }
     Feed(MouseListenerKind::MouseMoved, event);
 }
 
 void CVideoAnalyseContainer::DispatchKey(const ContainerMouseEvent& event) {
-    if (event.keyCode == EscapeKey) {
+    constexpr uint16_t escapeKey = 27;
+    if (event.keyCode == escapeKey) {
         RequestRedraw();
     }
     OfferToComposites(event);
@@ -100,12 +95,6 @@ CVideoAnalyseContainer::Hit CVideoAnalyseContainer::FindHitShape(const Container
     return best;
 }
 
-void CVideoAnalyseContainer::RequestRedraw() {
-    if (!closed) {
-        host.RequestRedraw(Redraw);
-    }
-}
-
 /// No other shape heeds what it does not listen to.
 void CVideoAnalyseContainer::OfferToComposites(const ContainerMouseEvent& event) {
     for (const ShapePtr& shape : shapes.Composites()) {
@@ -130,7 +119,7 @@ void CVideoAnalyseContainer::Feed(MouseListenerKind kind, const ContainerMouseEv
         return;
     }
     try {
-        const PointerEvent fed(event, GetClientRect(event.viewId));
+        const PointerEvent fed{event, GetClientRect(event.viewId)};
         listeners.Invoke(*walked, [&](CVideoAnalyseShape& shape) { shape.OnMouseListened(kind, fed); });
     } catch (...) {
         if (kind == MouseListenerKind::ButtonUp) { // a release that is lost must not leave anyone waiting for it

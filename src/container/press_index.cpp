@@ -84,7 +84,10 @@ void PressIndex::Refresh(const ShapeMap& shapes) {
         View& view = ViewOf(shape->GetViewId());
         const auto place = PlaceOf(id, view.shapes);
         if (place != view.shapes.end() && *place == shape) {
-            RefreshShape(view, static_cast<size_t>(place - view.shapes.begin()));
+            const auto at = static_cast<size_t>(place - view.shapes.begin());
+            const Claim claim = ClaimOf(*shape);
+            view.bounds.Set(at, claim);
+            NoteFlags(view, at, claim);
         }
     }
 }
@@ -117,12 +120,6 @@ void PressIndex::Rebuild(const ShapeMap& shapes) {
             NoteFlags(view, place, claims[place]);
         }
     }
-}
-
-void PressIndex::RefreshShape(View& view, size_t place) {
-    const Claim claim = ClaimOf(*view.shapes[place]);
-    view.bounds.Set(place, claim);
-    NoteFlags(view, place, claim);
 }
 
 /// The mark goes first: a change while the claim is read is then reported anew.

@@ -58,10 +58,10 @@ bool OnRing(const Points& ring, const PointF& p) {
     return VertexIndex(ring, p) >= 0 || OnPath(ring, p) || NearSegment(ring.back(), ring.front(), p);
 }
 
-int SideOfLine(const PointF& a, const PointF& b, const PointF& p) {
+double ExactSide(const PointF& a, const PointF& b, const PointF& p) {
     const double dx = static_cast<double>(b.x) - a.x;
     const double dy = static_cast<double>(b.y) - a.y;
-    return TruncateToInt(dx * (static_cast<double>(p.y) - a.y) - (static_cast<double>(p.x) - a.x) * dy);
+    return dx * (static_cast<double>(p.y) - a.y) - (static_cast<double>(p.x) - a.x) * dy;
 }
 
 bool InPolygon(const Points& ring, const PointF& p) {

@@ -10,7 +10,13 @@ Refused CGestureShape::SetVideoAnalyseShapeData(const Configuration& configurati
     try {
         TakeStyle(configuration.styleOrMode);
         isStyled = true;
-        return Configure(configuration);
+        BeginConfiguration(configuration.shapeName);
+        ReadWord(configuration.styleOrMode);
+        if (!IsEmpty(configuration.shapeData)) {
+            return LoadText(configuration);
+        }
+        RegisterDraw();
+        return std::nullopt;
     } catch (const Json::Exception& inconvertible) {
         return Refusal{"values of the documented types",
                        std::string("one that cannot be converted (") + inconvertible.what() + ")",
@@ -24,16 +30,6 @@ void CGestureShape::TakeStyle(const char* option) {
         ChangeStyle([&](ShapeStyle& changed) { ReadStyle(option, changed); });
         maxPtNum = style->xArrowLine ? LongestPath : maxPtNum;
     }
-}
-
-Refused CGestureShape::Configure(const Configuration& configuration) {
-    BeginConfiguration(configuration.shapeName);
-    ReadWord(configuration.styleOrMode);
-    if (!IsEmpty(configuration.shapeData)) {
-        return LoadText(configuration);
-    }
-    RegisterDraw();
-    return std::nullopt;
 }
 
 /// The selection is told before the name is known: a host that waits for it hears of a shape that may still be refused.

@@ -73,30 +73,11 @@ Outcome CGestureShape::Grab(ShapeState gesture) {
     return {gesture, effects::Grab};
 }
 
-Outcome CGestureShape::GrabWhole(const PointF& press) {
-    figure.anchorPoint = press;
-    return Grab(Moving);
-}
-
-Outcome CGestureShape::StartOver() {
-    Forget();
-    return {Waiting, effects::LetGo};
-}
-
 void CGestureShape::ClearShape() {
     Take(nullptr, [&]() -> Outcome {
         Forget();
         return {std::nullopt, effects::LetGo};
     });
-}
-
-bool CGestureShape::RestartDrawing() {
-    Take(nullptr, [&] { return StartOver(); });
-    return true;
-}
-
-void CGestureShape::FinishByRightButton(int hitLevel) {
-    Take(nullptr, [&] { return hitLevel == Busy && state == Drawing ? Finish() : Outcome{}; });
 }
 
 void CGestureShape::DeleteByRightButton(int hitLevel) {

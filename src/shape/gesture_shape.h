@@ -25,7 +25,11 @@ class CGestureShape : public CVideoAnalyseShape {
     Refused SetVideoAnalyseShapeData(const Configuration& configuration) override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
     void ClearShape() override;
-    bool RestartDrawing() override;
+    bool RestartDrawing() override {
+        Take(nullptr, [&] { return StartOver(); });
+        return true;
+    }
+
     /// All points, or none when one of them would leave the view.
     bool MoveShape(float dx, float dy) override;
     /// The points with one of them dragged to `current`.
@@ -70,10 +74,17 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Selects the finished shape and shows its handles.
     Outcome Grab(ShapeState gesture);
     /// The same for a press that moves the whole figure.
-    Outcome GrabWhole(const PointF& press);
+    Outcome GrabWhole(const PointF& press) {
+        figure.anchorPoint = press;
+        return Grab(Moving);
+    }
+
     Outcome Finish() const { return {Complete, effects::Finish}; }
     /// The figure goes, and the shape waits to be drawn anew.
-    Outcome StartOver();
+    Outcome StartOver() {
+        Forget();
+        return {Waiting, effects::LetGo};
+    }
 
     /// Moves the whole figure after the mouse and takes the mouse over as the new anchor; a refused step changes
     /// nothing.
@@ -144,7 +155,9 @@ class CGestureShape : public CVideoAnalyseShape {
     bool IsListening() const { return listening; }
 
     /// A right press while the shape is drawn finishes it.
-    void FinishByRightButton(int hitLevel);
+    void FinishByRightButton(int hitLevel) {
+        Take(nullptr, [&] { return hitLevel == Busy && state == Drawing ? Finish() : Outcome{}; });
+    }
     /// A right press on a shape that allows it takes the shape to state 0, clears it and reports that.
     void DeleteByRightButton(int hitLevel);
 
@@ -163,7 +176,6 @@ class CGestureShape : public CVideoAnalyseShape {
     void GiveUp(const Committed& committed) noexcept;
     bool IsStill(const Committed& committed) const { return life == committed.life && !IsRetired(); }
     void TellSelection();
-    void TellCreation(const ContainerMouseEvent* cause);
     void RequestCapture(bool take);
     void Listen();
     void StopListening();
@@ -171,7 +183,6 @@ class CGestureShape : public CVideoAnalyseShape {
     bool CopyFitted(PaintPass& pass);
 
     void TakeStyle(const char* option);
-    Refused Configure(const Configuration& configuration);
     void BeginConfiguration(const char* shapeName);
     Refused LoadText(const Configuration& configuration);
 

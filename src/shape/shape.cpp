@@ -6,16 +6,9 @@ namespace rulecanvas {
 
 CVideoAnalyseShape::CVideoAnalyseShape() : style(Shared(ShapeStyle())), shapeId(platform::IssueIdentity(this)) {}
 
-CVideoAnalyseShape::~CVideoAnalyseShape() = default;
-
 void CVideoAnalyseShape::GetShapePoints(Points& out) const {
     LockGuard guard(lock);
     out = figure.points;
-}
-
-bool CVideoAnalyseShape::SelectShape(bool select, int /*mode*/) {
-    SetSelectedState(select);
-    return true;
 }
 
 void CVideoAnalyseShape::SetSelectedState(bool select) {

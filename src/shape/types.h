@@ -55,11 +55,8 @@ inline PointF PositionOf(const ContainerMouseEvent& event) {
 /// An event of the mouse with the client rectangle of its view, for which the host was asked once.
 struct PointerEvent {
     const ContainerMouseEvent& record;
-    PointF position;
     ClientRect view;
-
-    PointerEvent(const ContainerMouseEvent& event, const ClientRect& clientRect)
-        : record(event), position(PositionOf(event)), view(clientRect) {}
+    PointF position = PositionOf(record);
 
     /// False while the view has no size, as that of a minimised window: nothing could be placed in it.
     bool HasView() const { return SizeOf(view).Known(); }

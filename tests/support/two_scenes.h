@@ -67,7 +67,7 @@ inline int PressAskingAll(CVideoAnalyseContainer& container, const ContainerMous
         }
     }
     if (winner != nullptr && isLeft) {
-        winner->HandleLButtonDownEvent(PointerEvent(event, container.GetClientRect(event.viewId)), best);
+        winner->HandleLButtonDownEvent(PointerEvent{event, container.GetClientRect(event.viewId)}, best);
     } else if (winner != nullptr) {
         winner->HandleRButtonEvent(event, best);
     }

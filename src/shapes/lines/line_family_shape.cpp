@@ -1,7 +1,5 @@
 #include "shapes/lines/line_family_shape.h"
 
-#include "geometry/hit_tests.h"
-
 #include <algorithm>
 #include <array>
 
@@ -23,13 +21,6 @@ Outcome CLineFamilyShape::StartDrawing(const PointerEvent& press) {
     }
     figure.lastPoint = press.position;
     return Begin(Drawing);
-}
-
-Outcome CLineFamilyShape::DrawTo(const PointerEvent& position) {
-    if (!figure.points.empty()) {
-        figure.lastPoint = position.ClampedFrom(figure.points.front());
-    }
-    return {};
 }
 
 Outcome CLineFamilyShape::EndDrawing(const PointerEvent& event) {
@@ -89,12 +80,6 @@ Outcome CLineFamilyShape::MoveTo(const PointerEvent& position) {
         return {Complete, effects::LetGo};
     }
     return {};
-}
-
-Outcome CLineFamilyShape::EndMove(const PointerEvent& release) {
-    AdjustEndpoint(release);
-    PassesValidation(figure.points, true); // an owner gets to see the final line; it stays whatever the answer
-    return Finish();
 }
 
 void CLineFamilyShape::AdjustEndpoint(const PointerEvent& position) {

@@ -20,12 +20,23 @@ class CLineFamilyShape : public CGestureShape {
 
   protected:
     Outcome StartDrawing(const PointerEvent& press) override;
-    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome DrawTo(const PointerEvent& position) override {
+        if (!figure.points.empty()) {
+            figure.lastPoint = position.ClampedFrom(figure.points.front());
+        }
+        return {};
+    }
+
     Outcome EndDrawing(const PointerEvent& event) override;
     int LevelAt(const PointF& press) override { return OnPath(figure.points, press) ? OnOutline : Outside; }
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
     Outcome MoveTo(const PointerEvent& position) override;
-    Outcome EndMove(const PointerEvent& release) override;
+    Outcome EndMove(const PointerEvent& release) override {
+        AdjustEndpoint(release);
+        PassesValidation(figure.points, true); // an owner gets to see the final line; it stays whatever the answer
+        return Finish();
+    }
+
     Outcome AdjustTo(const PointerEvent& position) override {
         AdjustEndpoint(position);
         return {};

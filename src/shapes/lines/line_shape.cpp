@@ -1,13 +1,8 @@
 #include "shapes/lines/line_shape.h"
 
-#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
-#include "shape/json_text.h"
-#include "shape/point_json.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
 #include "shapes/lines/crossing_mark.h"
-#include "shapes/lines/line_geometry.h"
 
 namespace rulecanvas {
 namespace {
@@ -50,11 +45,6 @@ CLineShape::CLineShape(const CLineShape& other) : CLineShape(other.orientation) 
     if (other.eventNameSet) {
         SetEventName(other.GetEventName().c_str());
     }
-}
-
-PointF CLineShape::Oriented(const PointF& point, const PointF& other) const {
-    return PointF{orientation == LineOrientation::Vertical ? other.x : point.x,
-                  orientation == LineOrientation::Horizontal ? other.y : point.y};
 }
 
 bool CLineShape::DragPoint(int index, const PointF& to, const ClientRect& view) {

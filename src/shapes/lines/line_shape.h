@@ -25,7 +25,11 @@ class CLineShape : public CLineFamilyShape {
     size_t MaximumPoints() const override {
         return LinePoints; // limits of the host are for lines that may bend
     }
-    PointF Oriented(const PointF& point, const PointF& other) const override;
+    PointF Oriented(const PointF& point, const PointF& other) const override {
+        return PointF{orientation == LineOrientation::Vertical ? other.x : point.x,
+                      orientation == LineOrientation::Horizontal ? other.y : point.y};
+    }
+
     bool IsWithinLimit(const PointF& first, const PointF& point) const override {
         return eventNameSet || (InPolygon(limitArea, point) && !CrossesPath(first, point, limitArea));
     }

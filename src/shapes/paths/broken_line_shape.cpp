@@ -1,4 +1,3 @@
-#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
 #include "shape/point_json.h"
 #include "shape/shape_factory.h"

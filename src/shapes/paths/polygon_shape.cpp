@@ -1,5 +1,3 @@
-#include "geometry/hit_tests.h"
-#include "geometry/segments.h"
 #include "shape/drawing.h"
 #include "shape/point_json.h"
 #include "shape/shape_factory.h"
@@ -41,7 +39,20 @@ class CPolygonShape final : public CClickPathShape {
         return std::any_of(figure.points.begin(), figure.points.end(), isOutside) ? Outcome{} : Finish();
     }
 
-    bool MovePoints(float dx, float dy, const ClientRect& view) override;
+    /// A move keeps every edge apart from the others but for the rounding of fractions of a pixel, which can bring a vertex
+    /// onto an edge.
+    bool MovePoints(float dx, float dy, const ClientRect& view) override {
+        if (ShiftsExactly(figure.points, dx, dy) || !IsSound()) {
+            return CClickPathShape::MovePoints(dx, dy, view);
+        }
+        Points before = figure.points;
+        if (CClickPathShape::MovePoints(dx, dy, view) && IsSound()) {
+            return true;
+        }
+        figure.points = std::move(before);
+        return false;
+    }
+
     bool IsOnOutline(const PointF& press) const override { return OnRing(figure.points, press); }
     bool HasInside() const override { return true; }
     /// A polygon that takes new vertices spends every right press on that: it is not deleted by one.
@@ -108,20 +119,6 @@ void DrawDirection(const ShapeLook& look, IContainerGraphics& surface) {
 }
 
 } // namespace
-
-/// A move keeps every edge apart from the others but for the rounding of fractions of a pixel, which can bring a vertex
-/// onto an edge.
-bool CPolygonShape::MovePoints(float dx, float dy, const ClientRect& view) {
-    if (ShiftsExactly(figure.points, dx, dy) || !IsSound()) {
-        return CClickPathShape::MovePoints(dx, dy, view);
-    }
-    Points before = figure.points;
-    if (CClickPathShape::MovePoints(dx, dy, view) && IsSound()) {
-        return true;
-    }
-    figure.points = std::move(before);
-    return false;
-}
 
 void CPolygonShape::InsertVertex(const PointF& press) {
     Take(nullptr, [&]() -> Outcome {

@@ -1,7 +1,5 @@
-#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
 #include "shape/notifications.h"
-#include "shape/point_json.h"
 #include "shape/shape_factory.h"
 #include "shapes/regions/box_shape.h"
 #include "shapes/regions/oval_handles.h"
@@ -10,6 +8,16 @@
 
 namespace rulecanvas {
 namespace {
+
+/// After a drawing the mouse is asked for once more, not given back: an oval keeps it.
+constexpr Effect FinishDrawn[] = {Effect::TellState, Effect::StopListening, Effect::TakeMouse};
+
+/// The corners of a configuration may come in any order.
+bool InBox(const Points& corners, const PointF& p) {
+    const auto [left, right] = std::minmax(corners[0].x, corners[2].x);
+    const auto [top, bottom] = std::minmax(corners[0].y, corners[2].y);
+    return left <= p.x && p.x <= right && top <= p.y && p.y <= bottom;
+}
 
 /// An ellipse inscribed in its box. Presses are judged by the box, not by the ellipse. Eight handles, the corners and
 /// the middles of the edges, resize it.
@@ -43,7 +51,18 @@ class COvalShape final : public CBoxShape {
         return {};
     }
 
-    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome EndDrawing(const PointerEvent& release) override {
+        if (release.position == figure.anchorPoint) {
+            return {Waiting, {}}; // and keeps listening: a click is as good a beginning as a press
+        }
+        if (!release.HasView()) {
+            return {};
+        }
+        figure.lastPoint = release.position;
+        SetCorners(figure.points, SpanRectangle(figure.anchorPoint, release.position, release.view));
+        return {Complete, FinishDrawn};
+    }
+
     /// A click left the oval listening: now it goes on from that click.
     Outcome ResumeDrawing(const PointerEvent& position) override {
         figure.lastPoint = position.position;
@@ -72,7 +91,16 @@ class COvalShape final : public CBoxShape {
     /// renames the member of what it saved before it loads it.
     std::string GeometryKey() const override { return "OvalShape"; }
     Refused Load(Loading& loading) override;
-    int LevelAt(const PointF& press) override;
+    int LevelAt(const PointF& press) override {
+        if (!HasCorners()) {
+            return Miss;
+        }
+        if (OnRing(figure.points, press)) {
+            return OnOutline;
+        }
+        return InBox(figure.points, press) ? Inside : Outside;
+    }
+
     /// A press during a drag of the finished oval is nothing to it.
     bool IsBusy() const override { return state == Waiting || state == Drawing; }
     Claim CompleteClaim() const override {
@@ -98,39 +126,7 @@ class COvalShape final : public CBoxShape {
 
 const bool registered = Register<COvalShape>("OvalShape");
 
-/// After a drawing the mouse is asked for once more, not given back: an oval keeps it.
-constexpr Effect FinishDrawn[] = {Effect::TellState, Effect::StopListening, Effect::TakeMouse};
-
-/// The corners of a configuration may come in any order.
-bool InBox(const Points& corners, const PointF& p) {
-    const auto [left, right] = std::minmax(corners[0].x, corners[2].x);
-    const auto [top, bottom] = std::minmax(corners[0].y, corners[2].y);
-    return left <= p.x && p.x <= right && top <= p.y && p.y <= bottom;
-}
-
 } // namespace
-
-int COvalShape::LevelAt(const PointF& press) {
-    if (!HasCorners()) {
-        return Miss;
-    }
-    if (OnRing(figure.points, press)) {
-        return OnOutline;
-    }
-    return InBox(figure.points, press) ? Inside : Outside;
-}
-
-Outcome COvalShape::EndDrawing(const PointerEvent& release) {
-    if (release.position == figure.anchorPoint) {
-        return {Waiting, {}}; // and keeps listening: a click is as good a beginning as a press
-    }
-    if (!release.HasView()) {
-        return {};
-    }
-    figure.lastPoint = release.position;
-    SetCorners(figure.points, SpanRectangle(figure.anchorPoint, release.position, release.view));
-    return {Complete, FinishDrawn};
-}
 
 Outcome COvalShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
     if (!HasCorners()) {

@@ -43,7 +43,17 @@ class CPixelCountShape final : public CRectangleShape {
     }
 
     void ReadWord(const char* /*option*/) override {}
-    Refused Load(Loading& loading) override;
+    Refused Load(Loading& loading) override {
+        if (!IsArrayOf(loading.geometry, 2)) {
+            return loading.Refuse("an array of a width and a height");
+        }
+        pixelWidth = loading.geometry[0].asInt();
+        pixelHeight = loading.geometry[1].asInt();
+        placePending = true;
+        Enter(Complete);
+        return std::nullopt;
+    }
+
     Json::Value WriteGeometry() const override {
         Json::Value measured;
         if (HasCorners()) {
@@ -77,17 +87,6 @@ class CPixelCountShape final : public CRectangleShape {
 const bool registered = Register<CPixelCountShape>("PixelCountShape");
 
 } // namespace
-
-Refused CPixelCountShape::Load(Loading& loading) {
-    if (!IsArrayOf(loading.geometry, 2)) {
-        return loading.Refuse("an array of a width and a height");
-    }
-    pixelWidth = loading.geometry[0].asInt();
-    pixelHeight = loading.geometry[1].asInt();
-    placePending = true;
-    Enter(Complete);
-    return std::nullopt;
-}
 
 bool CPixelCountShape::FitToPaint(const PaintPass& pass) {
     const ClientRect* painted = pass.PaintedRect();

@@ -1,10 +1,7 @@
 #include "shapes/regions/rectangle_shape.h"
 
-#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
-#include "shape/point_json.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
 #include "shapes/regions/mosaic.h"
 
 #include <algorithm>
@@ -36,11 +33,6 @@ int CRectangleShape::LevelAt(const PointF& press) {
         return Inside;
     }
     return selected ? Outside : Miss;
-}
-
-Outcome CRectangleShape::StartDrawing(const PointerEvent& press) {
-    figure.anchorPoint = press.position;
-    return Begin(Drawing);
 }
 
 Outcome CRectangleShape::EndDrawing(const PointerEvent& event) {
@@ -92,15 +84,13 @@ bool CRectangleShape::DragCoversCropLimit(const PointF& release) const {
                            PointF{std::max(anchor.x, release.x), std::max(anchor.y, release.y)});
 }
 
-bool CRectangleShape::MoveCoversCropLimit(const PointF& release) const {
+Outcome CRectangleShape::EndMove(const PointerEvent& event) {
+    const PointF release = WholePixels(event.position);
     const auto dx = static_cast<float>(TruncateToInt(release.x - figure.anchorPoint.x));
     const auto dy = static_cast<float>(TruncateToInt(release.y - figure.anchorPoint.y));
-    return !HasCorners() || CoversCropLimit(Shifted(figure.points[0], dx, dy), Shifted(figure.points[2], dx, dy));
-}
-
-void CRectangleShape::ReadWord(const char* option) {
-    textOnly = textOnly || IsWord(option, "TextOnly");
-    enableRBtnDelete = enableRBtnDelete || IsWord(option, "EnableRBtnDelete");
+    const Points& corners = figure.points;
+    const bool covers = !HasCorners() || CoversCropLimit(Shifted(corners[0], dx, dy), Shifted(corners[2], dx, dy));
+    return covers ? Finish() : Outcome{};
 }
 
 Refused CRectangleShape::Load(Loading& loading) {

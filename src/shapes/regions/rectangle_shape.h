@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shape/text.h"
 #include "shapes/regions/box_shape.h"
 
 namespace rulecanvas {
@@ -25,13 +26,15 @@ class CRectangleShape : public CBoxShape {
     void SetCropLimit(const ClientRect& limit) { cropLimit = limit; }
 
   protected:
-    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome StartDrawing(const PointerEvent& press) override {
+        figure.anchorPoint = press.position;
+        return Begin(Drawing);
+    }
+
     Outcome DrawTo(const PointerEvent& position) override { return AdjustTo(position); }
     Outcome EndDrawing(const PointerEvent& event) override;
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
-    Outcome EndMove(const PointerEvent& release) override {
-        return MoveCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
-    }
+    Outcome EndMove(const PointerEvent& event) override;
     Outcome EndAdjust(const PointerEvent& release) override {
         return DragCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
     }
@@ -41,7 +44,11 @@ class CRectangleShape : public CBoxShape {
         return SpanCorners(figure.anchorPoint, to, view, minimumSide);
     }
 
-    void ReadWord(const char* option) override;
+    void ReadWord(const char* option) override {
+        textOnly = textOnly || IsWord(option, "TextOnly");
+        enableRBtnDelete = enableRBtnDelete || IsWord(option, "EnableRBtnDelete");
+    }
+
     Refused Load(Loading& loading) override;
     int LevelAt(const PointF& press) override;
     /// Beside it only a selected rectangle answers, and selected shapes are asked everywhere.
@@ -54,7 +61,6 @@ class CRectangleShape : public CBoxShape {
   private:
     bool CoversCropLimit(const PointF& topLeft, const PointF& bottomRight) const;
     bool DragCoversCropLimit(const PointF& release) const;
-    bool MoveCoversCropLimit(const PointF& release) const;
 
     ClientRect cropLimit{-1, -1, -1, -1};
     bool textOnly = false;

@@ -45,7 +45,19 @@ class CCrossShape final : public CPlacedCrosses {
     void DropCross(PointF& /*cross*/, const PointerEvent& /*release*/) override {}
     /// The number of crosses.
     void ReadWord(const char* option) override { maxPtNum = MaximumFrom(option); }
-    Points ReadCrosses(const Json::Value& member) override;
+    /// A configuration without the member still makes as many crosses as were asked for, all in the top left corner, from
+    /// where the user drags them.
+    Points ReadCrosses(const Json::Value& member) override {
+        if (!member.isNull()) {
+            maxPtNum = static_cast<int>(member.size());
+        }
+        Points crosses;
+        for (int i = 0; i < maxPtNum; ++i) {
+            crosses.push_back(ReadPoint(member[i], figure.fitted));
+        }
+        return crosses;
+    }
+
     Json::Value WriteGeometry() const override {
         const bool isComplete = static_cast<int>(figure.points.size()) == maxPtNum;
         return isComplete ? WritePoints(Truncated(figure.points), figure.fitted) : Json::Value();
@@ -91,19 +103,6 @@ void DrawCaption(const ShapeLook& look, IContainerGraphics& surface) {
 }
 
 } // namespace
-
-/// A configuration without the member still makes as many crosses as were asked for, all in the top left corner, from
-/// where the user drags them.
-Points CCrossShape::ReadCrosses(const Json::Value& member) {
-    if (!member.isNull()) {
-        maxPtNum = static_cast<int>(member.size());
-    }
-    Points crosses;
-    for (int i = 0; i < maxPtNum; ++i) {
-        crosses.push_back(ReadPoint(member[i], figure.fitted));
-    }
-    return crosses;
-}
 
 void CCrossShape::Draw(const ShapeLook& look, PaintPass& pass) {
     for (const PointF& cross : look.Path()) {

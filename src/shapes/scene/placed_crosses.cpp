@@ -1,7 +1,5 @@
 #include "shapes/scene/placed_crosses.h"
 
-#include "geometry/hit_tests.h"
-
 namespace rulecanvas {
 namespace {
 
@@ -37,14 +35,6 @@ Outcome CPlacedCrosses::ContinueDrawing(const PointerEvent& press) {
     return Begin(Drawing);
 }
 
-Outcome CPlacedCrosses::DrawTo(const PointerEvent& position) {
-    if (!figure.points.empty()) {
-        PointF& last = figure.points.back();
-        last = position.ClampedFrom(last);
-    }
-    return {};
-}
-
 /// The last cross stays where the button was released, be it outside the view.
 Outcome CPlacedCrosses::EndDrawing(const PointerEvent& release) {
     if (!figure.points.empty()) {
@@ -56,24 +46,11 @@ Outcome CPlacedCrosses::EndDrawing(const PointerEvent& release) {
     return {Complete, FinishKeepingMouse};
 }
 
-Outcome CPlacedCrosses::AdjustTo(const PointerEvent& position) {
-    if (PointF* cross = GrabbedCross()) {
-        DragCross(*cross, position);
-    }
-    return {};
-}
-
 Outcome CPlacedCrosses::EndAdjust(const PointerEvent& release) {
     if (PointF* cross = GrabbedCross()) {
         DropCross(*cross, release);
     }
     return {Complete, FinishKeepingMouse};
-}
-
-Refused CPlacedCrosses::Load(Loading& loading) {
-    figure.points = ReadCrosses(loading.geometry);
-    Enter(Complete);
-    return std::nullopt;
 }
 
 } // namespace rulecanvas

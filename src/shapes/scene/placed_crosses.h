@@ -27,13 +27,31 @@ class CPlacedCrosses : public CGestureShape {
 
     Outcome StartDrawing(const PointerEvent& press) override { return ContinueDrawing(press); }
     Outcome ContinueDrawing(const PointerEvent& press) override;
-    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome DrawTo(const PointerEvent& position) override {
+        if (!figure.points.empty()) {
+            PointF& last = figure.points.back();
+            last = position.ClampedFrom(last);
+        }
+        return {};
+    }
+
     Outcome EndDrawing(const PointerEvent& release) override;
-    Outcome AdjustTo(const PointerEvent& position) override;
+    Outcome AdjustTo(const PointerEvent& position) override {
+        if (PointF* cross = GrabbedCross()) {
+            DragCross(*cross, position);
+        }
+        return {};
+    }
+
     Outcome EndAdjust(const PointerEvent& release) override;
 
     bool TakesStyle() const override { return false; }
-    Refused Load(Loading& loading) override;
+    Refused Load(Loading& loading) override {
+        figure.points = ReadCrosses(loading.geometry);
+        Enter(Complete);
+        return std::nullopt;
+    }
+
     CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
     int LevelAt(const PointF& press) override {
         figure.grabbedIndex = CrossAt(press);

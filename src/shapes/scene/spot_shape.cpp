@@ -69,7 +69,16 @@ class CSpotShape final : public CGestureShape {
     }
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
-    bool Covers(const PointF& press) const;
+    bool Covers(const PointF& press) const {
+        const Points& spot = figure.points;
+        if (spot.empty()) {
+            return false;
+        }
+        const double dx = static_cast<double>(press.x) - spot[0].x;
+        const double dy = static_cast<double>(press.y) - spot[0].y;
+        return dx * dx + dy * dy < static_cast<double>(radius) * radius + 1.0; // whole pixels decide
+    }
+
     void DrawCaption(const ShapeLook& look, IContainerGraphics& surface) const;
 
     /// Pixels.
@@ -85,16 +94,6 @@ float RoomTo(int border, float place) {
 }
 
 } // namespace
-
-bool CSpotShape::Covers(const PointF& press) const {
-    const Points& spot = figure.points;
-    if (spot.empty()) {
-        return false;
-    }
-    const double dx = static_cast<double>(press.x) - spot[0].x;
-    const double dy = static_cast<double>(press.y) - spot[0].y;
-    return dx * dx + dy * dy < static_cast<double>(radius) * radius + 1.0; // whole pixels decide
-}
 
 Refused CSpotShape::Load(Loading& loading) {
     const Json::Value& spots = loading.geometry;
