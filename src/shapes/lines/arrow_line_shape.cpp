@@ -25,7 +25,7 @@ class CArrowLineShape final : public CPathLineShape {
     /// Free in both directions, also for a horizon.
     bool MovePoints(float dx, float dy, const ClientRect& view) override {
         LearnViewSize(view); // as for a dragged point
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call): other lines are bound to a horizon by their name, an arrow is not
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): other lines are bound to a horizon, an arrow is not
         return ChangeChecked([&] { return CGestureShape::MovePoints(dx, dy, view); });
     }
 

@@ -39,8 +39,8 @@ class CPolygonShape final : public CClickPathShape {
         return std::any_of(figure.points.begin(), figure.points.end(), isOutside) ? Outcome{} : Finish();
     }
 
-    /// A move keeps every edge apart from the others but for the rounding of fractions of a pixel, which can bring a vertex
-    /// onto an edge.
+    /// A move keeps every edge apart from the others but for the rounding of fractions of a pixel, which can bring a
+    /// vertex onto an edge.
     bool MovePoints(float dx, float dy, const ClientRect& view) override {
         if (ShiftsExactly(figure.points, dx, dy) || !IsSound()) {
             return CClickPathShape::MovePoints(dx, dy, view);
