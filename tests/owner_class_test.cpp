@@ -3,13 +3,10 @@
 #include "container/container.h"
 #include "rulecanvas/surface.hpp"
 #include "shape/paint_pass.h"
-#include "shapes/lines/arrow_line_shape.h"
+#include "shape/shape_factory.h"
 #include "shapes/lines/line_shape.h"
-#include "shapes/lines/x_line_shape.h"
-#include "shapes/paths/broken_line_shape.h"
-#include "shapes/paths/polygon_shape.h"
+#include "shapes/paths/click_path_shape.h"
 #include "shapes/regions/rectangle_shape.h"
-#include "shapes/scene/spot_shape.h"
 
 #include <gtest/gtest.h>
 
@@ -28,14 +25,15 @@ void RULECANVAS_THISCALL CountNotification(void* target, const char* /*text*/, B
 }
 
 /// A shape in a view, but not among the shapes of the view's container.
-template <class Shape>
+template <class Shape = CVideoAnalyseShape>
 struct Owned {
     CVideoAnalyseContainer container{nullptr};
     std::shared_ptr<Shape> shape;
     int notifications = 0;
 
-    template <class... Arguments>
-    explicit Owned(const Arguments&... arguments) : shape(std::make_shared<Shape>(arguments...)) {
+    explicit Owned(const char* type)
+        : Owned(std::static_pointer_cast<Shape>(CShapeFactory::GetInstance().CreateShape(type))) {}
+    explicit Owned(std::shared_ptr<Shape> made) : shape(std::move(made)) {
         container.SetClientRectDelegate(CDelegate{this, reinterpret_cast<void*>(&ReportClientRect)});
         container.SetNotifyDelegate(CDelegate{&notifications, reinterpret_cast<void*>(&CountNotification)});
         container.Enable(true);
@@ -56,7 +54,7 @@ struct Owned {
 
     void Press(const PointF& at, int level) {
         const ContainerMouseEvent event{RULECANVAS_MOUSE_LEFT_DOWN, OwnersView, 0, at.x, at.y, 0, 0};
-        shape->HandleLButtonDownEvent(PointerEvent(event, GridRect), level);
+        shape->HandleLButtonDownEvent(PointerEvent{event, GridRect}, level);
     }
 
     void Send(uint32_t code, const PointF& at) { container.OnMouseEvent({code, OwnersView, 0, at.x, at.y, 0, 0}); }
@@ -70,10 +68,10 @@ struct Owned {
 };
 
 TEST(OwnedLine, CopiesItsKindAndNamesButNoPoints) {
-    Owned<CLineShape> original(LineOrientation::Vertical);
+    Owned<CLineShape> original("VerticalLineShape");
     original.shape->SetEventName("event");
     original.Configure("name", R"({"name":[[10,10],[10,90]]})", "MovedHLine");
-    Owned<CLineShape> copy(*original.shape);
+    Owned<CLineShape> copy(std::make_shared<CLineShape>(*original.shape));
     EXPECT_EQ(copy.shape->GetName() + copy.shape->GetEventName(), "nameevent");
     EXPECT_EQ(copy.StateAfterStroke({10, 10}, {50, 90}), Drawing) << "level and upright at once: never long enough";
     copy.shape->SetShapePoints({{10, 10}, {10, 90}});
@@ -82,9 +80,9 @@ TEST(OwnedLine, CopiesItsKindAndNamesButNoPoints) {
 }
 
 TEST(OwnedLine, WithoutAnEventNameIsDrawnInsideItsLimitAreaOnly) {
-    Owned<CXLineShape> area;
+    Owned<> area("XLineShape");
     area.Configure("u", R"({"u":[[30,90],[0,90],[0,0],[90,0],[90,90],[60,90],[60,30],[30,30]]})");
-    Owned<CLineShape> limited(LineOrientation::Free);
+    Owned<CLineShape> limited("LineShape");
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {80, 10}), Waiting) << "no area, nothing inside";
     EXPECT_TRUE(limited.shape->SetLimitArea(area.shape.get()));
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {45, 60}), Waiting) << "ends outside";
@@ -94,7 +92,7 @@ TEST(OwnedLine, WithoutAnEventNameIsDrawnInsideItsLimitAreaOnly) {
 
 TEST(OwnedLine, IsClippedToAPolygon) {
     const auto clipped = [](const Points& points, const char* key = "area", int mode = 0) {
-        Owned<CLineShape> owned(LineOrientation::Free);
+        Owned<CLineShape> owned("LineShape");
         owned.shape->SetShapePoints(points);
         const char* square = R"({"area":[[100,100],[200,100],[200,200],[100,200]]})";
         const bool done = owned.shape->ClipToPolygon(square, key, mode);
@@ -115,7 +113,7 @@ TEST(OwnedArrow, AsksItsOwnerBeforeItChanges) {
         bool Decide(const Points& path, bool /*complete*/) { return content || path.size() == 1; }
         bool Check(const Points& path) { return path[0].x < 50; }
     } owner;
-    Owned<CArrowLineShape> arrow;
+    Owned<> arrow("ArrowLineShape");
     OwnerHooks& hooks = arrow.shape->Hooks();
     hooks.ValidationHook = decltype(hooks.ValidationHook)::Bind<&Owner::Decide>(&owner);
     hooks.GeometryCheckHook = decltype(hooks.GeometryCheckHook)::Bind<&Owner::Check>(&owner);
@@ -144,7 +142,7 @@ TEST(OwnedShape, LetsItsOwnerHearAndPlaceInsteadOfTheHost) {
         bool Place(ViewID, const PointF& point) { return point.x < 100; }
         void Create(const ContainerMouseEvent& event) { creations += event.x == 90 ? 1 : 0; }
     } owner;
-    Owned<CRectangleShape> rectangle;
+    Owned<CRectangleShape> rectangle("Rect");
     OwnerHooks& hooks = rectangle.shape->Hooks();
     hooks.SelectNotifyHook = decltype(hooks.SelectNotifyHook)::Bind<&Owner::Select>(&owner);
     hooks.StateNotifyHook = decltype(hooks.StateNotifyHook)::Bind<&Owner::State>(&owner);
@@ -158,7 +156,7 @@ TEST(OwnedShape, LetsItsOwnerHearAndPlaceInsteadOfTheHost) {
 }
 
 TEST(OwnedRectangle, IsPlacedByItsOwner) {
-    Owned<CRectangleShape> owned;
+    Owned<CRectangleShape> owned("Rect");
     CRectangleShape& rectangle = *owned.shape;
     rectangle.PlaceAt({100, 100}, 41, 20);
     EXPECT_EQ(rectangle.GetState(), Complete);
@@ -177,7 +175,7 @@ TEST(OwnedRectangle, IsPlacedByItsOwner) {
 }
 
 TEST(OwnedRectangle, MustCoverItsCropLimit) {
-    Owned<CRectangleShape> owned;
+    Owned<CRectangleShape> owned("Rect");
     owned.shape->PlaceAt({100, 100}, 100, 100);
     owned.shape->SetCropLimit({60, 60, 140, 140});
     struct Case {
@@ -195,10 +193,9 @@ TEST(OwnedRectangle, MustCoverItsCropLimit) {
 }
 
 /// A polygon's move is judged by its vertices, shifted back by what the release lies beyond the last move.
-template <class Shape, class... Arguments>
-void CheckLimit(const PointF& press, const PointF& move, const PointF& refused, const PointF& accepted,
-                Arguments... arguments) {
-    Owned<Shape> owned(arguments...);
+void CheckLimit(const char* type, const PointF& press, const PointF& move, const PointF& refused,
+                const PointF& accepted) {
+    Owned<CClickPathShape> owned(type);
     owned.Configure("rule", R"({"rule":[[100,100],[200,100],[200,200]]})", "EnableRBtnDelete");
     owned.shape->SetLimitRectangle({100, 100, 300, 300});
     owned.Press(press, Inside);
@@ -213,10 +210,9 @@ void CheckLimit(const PointF& press, const PointF& move, const PointF& refused, 
 }
 
 TEST(OwnedPath, EndsADragInsideItsLimitRectangleOnly) {
-    constexpr auto plain = CPolygonShape::EdgePress::Ignored;
-    CheckLimit<CPolygonShape>({200, 200}, {250, 250}, {301, 250}, {300, 250}, plain);
-    CheckLimit<CPolygonShape>({180, 120}, {280, 220}, {279, 219}, {281, 221}, plain);
-    CheckLimit<CBrokenLineShape>({200, 200}, {250, 250}, {99, 250}, {100, 250});
+    CheckLimit("Polygon", {200, 200}, {250, 250}, {301, 250}, {300, 250});
+    CheckLimit("Polygon", {180, 120}, {280, 220}, {279, 219}, {281, 221});
+    CheckLimit("BrokenLine", {200, 200}, {250, 250}, {99, 250}, {100, 250});
 }
 
 TEST(OwnedPath, TellsItsOwnerWhereTheRightButtonRests) {
@@ -224,7 +220,7 @@ TEST(OwnedPath, TellsItsOwnerWhereTheRightButtonRests) {
         int heard = 0;
         void Hear(const PointF& at) { heard += at.x == 500 ? 1 : 0; }
     } owner;
-    Owned<CBrokenLineShape> line;
+    Owned<> line("BrokenLine");
     line.shape->Hooks().CursorHook = decltype(OwnerHooks::CursorHook)::Bind<&Owner::Hear>(&owner);
     line.Configure("rule", R"({"rule":[[100,100],[200,100],[200,200]]})");
     int level = Miss;
@@ -238,7 +234,7 @@ TEST(OwnedSpot, StaysSolidWhenItIsConfiguredAgain) {
         int filled = 0;
         void PaintEllipse(const PointF&, const PointF&, float, const ColorF&, const ColorF&) override { ++filled; }
     } surface;
-    Owned<CSpotShape> spot;
+    Owned<> spot("SpotShape");
     ShapeLook look;
     PaintPass pass(spot.container, OwnersView, surface, GridRect, look);
     for (const char* word : {"", "solid", "outline", ""}) {

@@ -5,8 +5,6 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
 void CGestureShape::Enter(ShapeState next) {
     state = next;
     ++life;
@@ -50,7 +48,9 @@ void CGestureShape::SpeakOne(Effect effect, const Committed& committed, const Co
     case Effect::TellState:
         return TellState(committed.previous, committed.outcome.state.value_or(Deleted));
     case Effect::TellCreation:
-        return TellCreation(cause);
+        if (OwnersHooks() != nullptr && cause != nullptr) {
+            OwnersHooks()->CreationFinishedHook(*cause);
+        }
     }
 }
 
@@ -99,12 +99,6 @@ void CGestureShape::TellState(int previousState, int newState) {
     IShapeContainer* owner = GetContainer();
     if (owner != nullptr && owner->HasNotifyDelegate()) {
         owner->Notify(StateEvent(*this, previousState, newState));
-    }
-}
-
-void CGestureShape::TellCreation(const ContainerMouseEvent* cause) {
-    if (OwnersHooks() != nullptr && cause != nullptr) {
-        OwnersHooks()->CreationFinishedHook(*cause);
     }
 }
 
