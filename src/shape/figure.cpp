@@ -8,15 +8,9 @@ void Figure::Adopt(const ClientRect& view) {
     clientRect.bottom = fitted.height;
 }
 
-bool Figure::IsFittedTo(const ClientRect& view) const {
-    return view.left == 0 && view.top == 0 && view.right == fitted.width && view.bottom == fitted.height &&
-           view.right == clientRect.right && view.bottom == clientRect.bottom && clientRect.left == 0 &&
-           clientRect.top == 0;
-}
-
 /// By the right and bottom edges, not by width and height: every view is taken to start at its origin.
-void Figure::FitTo(const ClientRect& view) {
-    if (IsFittedTo(view) || !fitted.Known() || view.right <= 0 || view.bottom <= 0 || !SizeOf(view).Known()) {
+void Figure::Rescale(const ClientRect& view) {
+    if (!fitted.Known() || view.right <= 0 || view.bottom <= 0 || !SizeOf(view).Known()) {
         return;
     }
     const double scaleX = view.right * 1.0 / fitted.width;

@@ -21,10 +21,19 @@ struct Figure {
     /// Takes over the size of a view, the points staying where they are.
     void Adopt(const ClientRect& view);
     /// Rescales the points to a view of another size. A view without a size, as that of a minimised window, leaves them.
-    void FitTo(const ClientRect& view);
+    void FitTo(const ClientRect& view) {
+        if (!IsFittedTo(view)) {
+            Rescale(view);
+        }
+    }
 
   private:
-    bool IsFittedTo(const ClientRect& view) const;
+    bool IsFittedTo(const ClientRect& view) const {
+        return view.left == 0 && view.top == 0 && view.right == fitted.width && view.bottom == fitted.height &&
+               view.right == clientRect.right && view.bottom == clientRect.bottom && clientRect.left == 0 &&
+               clientRect.top == 0;
+    }
+    void Rescale(const ClientRect& view);
 };
 
 } // namespace rulecanvas

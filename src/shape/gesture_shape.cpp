@@ -145,7 +145,9 @@ void CGestureShape::OnDraw(PaintPass& pass) {
 
 bool CGestureShape::CopyFitted(PaintPass& pass) {
     LockGuard guard(lock);
-    if (!FitToPaint(pass)) {
+    if (beforePaint == BeforePaint::Fit) {
+        figure.FitTo(pass.viewZero);
+    } else if (beforePaint == BeforePaint::Prepare && !PrepareForPaint(pass)) {
         return false;
     }
     CopyLook(pass.look);

@@ -114,9 +114,11 @@ class CGestureShape : public CVideoAnalyseShape {
 
     /// Whether a paint of the view shows the shape.
     virtual bool IsShownIn(ViewID view) const { return visible && view == GetViewId() && state != Deleted; }
-    /// With the lock held, before the figure is copied. False: it needs the painted view's rectangle, which the pass has
-    /// not asked for yet.
-    virtual bool FitToPaint(const PaintPass& /*pass*/) { return true; }
+    /// What is done with the lock held before the figure is copied.
+    enum class BeforePaint : uint8_t { Nothing, Fit, Prepare };
+    BeforePaint beforePaint = BeforePaint::Nothing;
+    /// False: it needs the painted view's rectangle, which the pass has not asked for yet.
+    virtual bool PrepareForPaint(const PaintPass& /*pass*/) { return true; }
     virtual void Draw(const ShapeLook& look, PaintPass& pass) = 0;
 
     // Presses, with the lock held.

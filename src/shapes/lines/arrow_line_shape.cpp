@@ -10,6 +10,10 @@ namespace {
 /// A direction of travel: a line, or with "XArrowLine" a path of up to 20 points, with an arrow head where `direction`
 /// says.
 class CArrowLineShape final : public CPathLineShape {
+  public:
+    CArrowLineShape() { beforePaint = BeforePaint::Fit; }
+
+  private:
     /// Finishes only a path that whoever judges it accepts.
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override {
         bool accepted = false;
@@ -32,7 +36,6 @@ class CArrowLineShape final : public CPathLineShape {
     bool DragPoint(int index, const PointF& to, const ClientRect& view) override {
         return ChangeChecked([&] { return CPathLineShape::DragPoint(index, to, view); });
     }
-    bool FitToPaint(const PaintPass& pass) override;
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
     /// Makes a change of the path, and takes it back when an owner refuses what came of it.
@@ -83,11 +86,6 @@ void DrawHead(const ShapeLook& look, IContainerGraphics& surface) {
 }
 
 } // namespace
-
-bool CArrowLineShape::FitToPaint(const PaintPass& pass) {
-    figure.FitTo(pass.viewZero);
-    return true;
-}
 
 void CArrowLineShape::Draw(const ShapeLook& look, PaintPass& pass) {
     const Points& path = look.Path();

@@ -17,7 +17,7 @@ enum class EdgePress { Ignored, InsertsVertex };
 /// as arrows across the first edge.
 class CPolygonShape final : public CClickPathShape {
   public:
-    explicit CPolygonShape(EdgePress onEdge) : edgePress(onEdge) {}
+    explicit CPolygonShape(EdgePress onEdge) : edgePress(onEdge) { beforePaint = BeforePaint::Fit; }
 
     bool RestartDrawing() override {
         selected = true;
@@ -79,7 +79,6 @@ class CPolygonShape final : public CClickPathShape {
         return figure.points.size() < fewest ? Json::Value() : WritePoints(Truncated(figure.points), figure.fitted);
     }
     CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
-    bool FitToPaint(const PaintPass& pass) override;
     void DrawRest(const ShapeLook& look, IContainerGraphics& surface) override;
 
     void InsertVertex(const PointF& press);
@@ -153,11 +152,6 @@ bool CPolygonShape::OfferFinish() {
         return {Waiting, effects::Finish};
     });
     return closes;
-}
-
-bool CPolygonShape::FitToPaint(const PaintPass& pass) {
-    figure.FitTo(pass.viewZero);
-    return true;
 }
 
 void CPolygonShape::DrawRest(const ShapeLook& look, IContainerGraphics& surface) {

@@ -32,6 +32,7 @@ int PixelsBetween(float from, float to, int display, int video) {
 class CPixelCountShape final : public CRectangleShape {
   public:
     CPixelCountShape() {
+        beforePaint = BeforePaint::Prepare;
         ChangeStyle([](ShapeStyle& changed) { changed.lineThickness = 1; });
         minimumSide = std::numeric_limits<int>::min(); // whatever the view leaves of a drag is a size worth measuring
     }
@@ -64,7 +65,7 @@ class CPixelCountShape final : public CRectangleShape {
     }
 
     bool WritesPlaces() const override { return false; }
-    bool FitToPaint(const PaintPass& pass) override;
+    bool PrepareForPaint(const PaintPass& pass) override;
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
     void Place(const ClientRect& painted, const ClientRect& viewZero);
@@ -88,7 +89,7 @@ const bool registered = Register<CPixelCountShape>("PixelCountShape");
 
 } // namespace
 
-bool CPixelCountShape::FitToPaint(const PaintPass& pass) {
+bool CPixelCountShape::PrepareForPaint(const PaintPass& pass) {
     const ClientRect* painted = pass.PaintedRect();
     if (painted == nullptr && (placePending || !figure.fitted.Known())) {
         return false;
