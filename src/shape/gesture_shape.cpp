@@ -51,11 +51,17 @@ void CGestureShape::OnMouseListened(MouseListenerKind kind, const PointerEvent& 
     if (event.record.viewId != GetViewId() || (!isRelease && !event.HasView())) {
         return;
     }
-    Take(&event.record, [&]() -> Outcome {
+    bool concludesLater = false;
+    const bool isStill = Take(&event.record, [&]() -> Outcome {
         const Steps& steps = stepsIn[state];
         const Step step = isRelease ? steps.onRelease : steps.onMove;
-        return step == nullptr ? Outcome{} : (this->*step)(event);
+        const Outcome outcome = step == nullptr ? Outcome{} : (this->*step)(event);
+        concludesLater = outcome.concludesLater;
+        return outcome;
     });
+    if (concludesLater && isStill) {
+        Take(&event.record, [&] { return ConcludeDrawing(event); });
+    }
 }
 
 Outcome CGestureShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {

@@ -49,6 +49,8 @@ class CGestureShape : public CVideoAnalyseShape {
     virtual Outcome ContinueDrawing(const PointerEvent& /*press*/) { return {}; }
     virtual Outcome DrawTo(const PointerEvent& position) = 0;
     virtual Outcome EndDrawing(const PointerEvent& release) = 0;
+    /// The rest of an end that concludes later.
+    virtual Outcome ConcludeDrawing(const PointerEvent& /*release*/) { return {}; }
     /// A move or release that a shape which waits to be drawn still listens to.
     virtual Outcome ResumeDrawing(const PointerEvent& /*position*/) { return {}; }
     virtual Outcome FinishWaiting(const PointerEvent& /*release*/) { return {}; }
@@ -133,14 +135,14 @@ class CGestureShape : public CVideoAnalyseShape {
     void Dispose() override;
     virtual void TellState(int previousState, int newState);
 
-    /// Runs a step: decides, commits, speaks.
+    /// Runs a step: decides, commits, speaks. False: the host answered by changing the shape.
     template <class Step>
-    void Take(const ContainerMouseEvent* cause, Step step) {
+    bool Take(const ContainerMouseEvent* cause, Step step) {
         Committed committed;
         {
             platform::LockGuard guard(lock);
             if (IsRetired()) {
-                return;
+                return false;
             }
             committed.previous = state;
             committed.outcome = step();
@@ -150,6 +152,7 @@ class CGestureShape : public CVideoAnalyseShape {
             MarkClaimStale();
         }
         Speak(committed, cause);
+        return IsStill(committed);
     }
 
     /// The one place where a shape changes its state; with the lock held.

@@ -40,6 +40,8 @@ class EffectList {
 struct Outcome {
     std::optional<ShapeState> state;
     EffectList effects;
+    /// What the drawing comes to is decided by a step of its own, once the effects are spoken.
+    bool concludesLater = false;
 
     bool ChangesLife() const { return state.has_value() || effects.begin() != effects.end(); }
 };

@@ -11,7 +11,7 @@ namespace {
 
 const bool registered = Register<CRectangleShape>("Rect");
 
-constexpr Effect FinishDrawn[] = {Effect::StopListening, Effect::GiveMouse, Effect::TellCreation, Effect::TellState};
+constexpr Effect TellDrawn[] = {Effect::TellCreation, Effect::TellState};
 
 } // namespace
 
@@ -40,10 +40,15 @@ Outcome CRectangleShape::EndDrawing(const PointerEvent& event) {
     if (!DragCoversCropLimit(release) || !AcceptsPoint(release, event.view)) {
         return {};
     }
+    return {std::nullopt, effects::LetGo, true}; // it is still drawn while the host takes the mouse back
+}
+
+Outcome CRectangleShape::ConcludeDrawing(const PointerEvent& event) {
+    const PointF release = WholePixels(event.position);
     if (release == figure.anchorPoint || !DragPoint(figure.grabbedIndex, release, event.view)) {
-        return {Waiting, effects::LetGo}; // with the corners that the drag had reached, until others replace them
+        return {Waiting, {}}; // with the corners that the drag had reached, until others replace them
     }
-    return {Complete, FinishDrawn};
+    return {Complete, TellDrawn};
 }
 
 Outcome CRectangleShape::StartEditing(const PointerEvent& press, int hitLevel) {

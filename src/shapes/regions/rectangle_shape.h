@@ -33,6 +33,7 @@ class CRectangleShape : public CBoxShape {
 
     Outcome DrawTo(const PointerEvent& position) override { return AdjustTo(position); }
     Outcome EndDrawing(const PointerEvent& event) override;
+    Outcome ConcludeDrawing(const PointerEvent& event) override;
     Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
     Outcome EndMove(const PointerEvent& event) override;
     Outcome EndAdjust(const PointerEvent& release) override {
