@@ -1,4 +1,5 @@
 #include "support/scenario_host.h"
+#include "support/types.h"
 
 #include <gtest/gtest.h>
 
@@ -131,10 +132,17 @@ TEST(Container, HandsOutHandlersThatCompareEqual) {
     EXPECT_EQ(GetContainerDrawEventHandler(container, &draw), 1U);
     const ContainerHandlerTable& table = *mouse.handler->table;
     ContainerHandler* clone = table.clone(mouse.handler);
+    table.destroy(clone, 0); // which frees nothing
     EXPECT_EQ(table.kind(clone), 1U);
     EXPECT_EQ(table.equals(mouse.handler, clone), 1U);
     EXPECT_EQ(table.equals(mouse.handler, draw.handler), 0U);
     EXPECT_EQ(table.equals(mouse.handler, nullptr), 0U);
+    ContainerHandlerTable another = table;
+    another.kind = +[](const ContainerHandler*) RULECANVAS_THISCALL { return 0U; };
+    ContainerHandler ofTheHost{&another, mouse.handler->target, mouse.handler->method};
+    EXPECT_EQ(table.equals(mouse.handler, &ofTheHost), 0U);
+    ContainerHandler ofAnother{&table, nullptr, mouse.handler->method};
+    EXPECT_EQ(table.equals(mouse.handler, &ofAnother), 0U);
     EXPECT_EQ(table.invoke(clone, 0, 0), 0U) << "no event";
     EXPECT_EQ(draw.handler->table->invoke(draw.handler, TheView, 0), 0U) << "no surface";
     table.destroy(clone, 1);
@@ -222,19 +230,30 @@ TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
 }
 
 TEST(Container, CollapsesNoFigureWhileTheViewHasNoSize) {
-    for (const char* type : {"Rect", "LineShape", "XLineShape", "BrokenLine", "SpotShape", "CrossShape"}) {
+    for (const Type& type : Types) {
         ScenarioHost host;
-        const ShapeID shape = host.Add(type, Square);
-        const std::string before = host.Config(shape);
+        host.container.SetVideoSize(GridView, GridView);
+        host.Add(type.name, type.config);
+        host.Paint(); // which places a pixel counter
         host.Press(98, 73);
-        host.Resize(0, 0);
-        host.Move(300, 300);
+        const Lines before = host.Paint();
+        for (const ClientRect& empty :
+             {ClientRect{0, 0, 0, 0}, ClientRect{0, 0, -5, 100}, ClientRect{50, 0, 50, 100}}) {
+            host.clientRect = empty;
+            host.Move(300, 300);
+            host.Paint();
+            host.Resize(800, 600);
+            EXPECT_EQ(host.Paint(), before) << type.name;
+        }
+        host.clientRect = ClientRect{0, -100, 800, 0};
         host.Paint();
         host.Resize(800, 600);
-        EXPECT_EQ(host.Config(shape), before) << type;
+        EXPECT_EQ(host.Paint(), before) << type.name << ": a view above its origin has no place for it";
         host.Move(120, 90);
-        EXPECT_NE(host.Config(shape), before) << type;
+        EXPECT_NE(host.Paint(), before) << type.name;
     }
+    ScenarioHost host(0, 0);
+    EXPECT_EQ(host.Config(host.Add("LineShape", Square)), R"({"rule":[[0,0],[0,0]]})");
 }
 
 TEST(Container, DrawsInTheOrderOfCreation) {
@@ -247,7 +266,8 @@ TEST(Container, DrawsInTheOrderOfCreation) {
         drawn += call.substr(call.find('"') + 1, 1);
     }
     EXPECT_EQ(drawn, "1234");
-    host.container.IgnoreNotifications();
+    const CDelegate half{&host, nullptr};
+    SetContainerNotifyEventDelegate(host.container.Handle(), &half);
     host.Drag({150, 150}, {160, 160});
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture off"}));
 }

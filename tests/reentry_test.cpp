@@ -83,6 +83,15 @@ Lines DrawnAnew(ScenarioHost& host, ShapeID shape) {
     return host.TakeLog();
 }
 
+constexpr const char* Square = R"({"rule":[[1000,1000],[3000,3000]]})"; // in a view of 800 x 600: (98,73)-(293,220)
+
+/// Draws a polygon whose closing edge would cross another.
+void AddBow(ScenarioHost& host) {
+    host.Add("Polygon");
+    Act(host, "click 50 50 click 100 50 click 100 0 click 0 0 click 0 100 click 120 100 click 120 40");
+    host.TakeLog();
+}
+
 class Reentry : public testing::TestWithParam<const char*> {};
 
 TEST_P(Reentry, LeavesNothingHalfMadeInAnyCallbackOfAGesture) {
@@ -197,16 +206,40 @@ TEST(Callbacks, AListenerThatIsGoneIsNotCalled) {
 }
 
 TEST(Callbacks, AShapeThatIsDeletedBetweenItsHitAndThePressDoesNotAnswer) {
+    for (const bool isAskedFirst : {true, false}) {
+        ScenarioHost host;
+        ShapeID figure = 0;
+        const auto add = [&] { figure = host.Add("Rect", Square, "EnableRBtnDelete"); };
+        isAskedFirst ? add() : AddBow(host);
+        isAskedFirst ? AddBow(host) : add();
+        // While the press looks for the figure it hits.
+        ActInsideOf(host, "state rule 2>1", 1, [&] { host.container.DeleteShape(figure); });
+        host.RightPress(150, 150);
+        EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>1", "capture off", "capture off"})) << "one of each";
+    }
+}
+
+TEST(Callbacks, ADrawingThatBeginsAnewBetweenItsHitAndThePressIsNotFinished) {
     ScenarioHost host;
-    const ShapeID figure = host.Add("Rect", R"({"rule":[[1000,1000],[3000,3000]]})", "EnableRBtnDelete");
-    host.Add("Polygon");
-    Act(host, "click 50 50 click 100 50 click 100 0 click 0 0 click 0 100 click 120 100");
-    host.Click(120, 40); // whose closing edge crosses another
-    host.TakeLog();
-    // While the press looks for the figure it hits.
-    ActInsideOf(host, "state rule 2>1", 1, [&] { host.container.DeleteShape(figure); });
+    const ShapeID path = host.Add("BrokenLine");
+    Act(host, "click 9 9 click 90 9 click 90 90");
+    host.container.EnableShape(path, false);
+    AddBow(host);
+    host.container.EnableShape(path);
+    ActInsideOf(host, "state rule 2>1", 1, [&] { host.container.RedrawShape(path); });
     host.RightPress(150, 150);
-    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>1", "capture off", "capture off"})) << "one of each";
+    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>1", "capture off", "capture off"})) << "no word of a finish";
+}
+
+TEST(Callbacks, ADeletionFromInsideItselfHappensOnce) {
+    ScenarioHost host;
+    const ShapeID shape = host.Add("Rect", Square);
+    host.Press(150, 150);
+    host.TakeLog();
+    ActInsideOf(host, "capture off", 1, [&] { host.container.DeleteShape(shape); });
+    host.container.DeleteShape(shape);
+    EXPECT_EQ(host.TakeLog(), Lines{"capture off"});
+    EXPECT_EQ(AllShapeStates().str(), "null");
 }
 
 TEST(Callbacks, ReleasingTheContainerWhileAShapeIsMadeMakesNone) {
