@@ -258,14 +258,19 @@ TEST(Container, CollapsesNoFigureWhileTheViewHasNoSize) {
 
 TEST(Container, DrawsInTheOrderOfCreation) {
     ScenarioHost host;
-    for (const char* caption : {"1", "2", "3", "4"}) {
-        host.container.SetCaption(host.Add("Rect", Square, "TextOnly"), caption);
+    ShapeID third = 0;
+    for (const char* caption : {"1", "2", "3", "4", "5"}) {
+        const ShapeID shape = host.Add("Rect", Square, "TextOnly");
+        third = *caption == '3' ? shape : third;
+        host.container.SetCaption(shape, caption);
     }
+    host.container.DeleteShape(third); // which leaves a hole in the list
+    host.TakeLog();
     std::string drawn;
     for (const std::string& call : host.Paint()) {
         drawn += call.substr(call.find('"') + 1, 1);
     }
-    EXPECT_EQ(drawn, "1234");
+    EXPECT_EQ(drawn, "1245");
     const CDelegate half{&host, nullptr};
     SetContainerNotifyEventDelegate(host.container.Handle(), &half);
     host.Drag({150, 150}, {160, 160});

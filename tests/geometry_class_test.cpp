@@ -86,6 +86,30 @@ TEST(Geometry, SegmentsMeetWhenTheyCrossOrTouch) {
     EXPECT_FALSE(LastEdgeCrosses({}) || ClosingEdgeCrosses({}));
 }
 
+TEST(Geometry, LinesMeetUnlessTheyAreParallel) {
+    EXPECT_EQ(LineIntersection({0, 0}, {4, 2}, {0, 5}, {2, 4}), (PointF{5, 2.5F}));
+    EXPECT_EQ(LineIntersection({1, 7}, {2, 7}, {4, 3}, {4, 9}), (PointF{4, 7}));
+    EXPECT_EQ(LineIntersection({0, 0}, {4, 2}, {9, 9}, {13, 11}), std::nullopt);
+}
+
+TEST(Geometry, TheInsideOfARingDoesNotDependOnItsBeginning) {
+    Points ring{{0, 0}, {60, 0}, {60, 60}, {30, 20}, {0, 60}};
+    for (int direction = 0; direction < 2; ++direction) {
+        for (size_t turn = 0; turn < ring.size(); ++turn) {
+            for (const PointF& in : {PointF{10, 10}, {50, 10}, {5, 45}, {55, 45}, {30, 19}}) {
+                EXPECT_TRUE(InPolygon(ring, in)) << in.x << "," << in.y << " in turn " << turn;
+            }
+            for (const PointF& out : {PointF{-1, 20}, {61, 20}, {30, 40}, {-1, 0}, {61, 0}, {44, 40}, {16, 40}}) {
+                EXPECT_FALSE(InPolygon(ring, out)) << out.x << "," << out.y << " in turn " << turn;
+            }
+            EXPECT_TRUE(InPolygon(ring, {0, 30})) << "a left edge is inside, a right one is not";
+            EXPECT_FALSE(InPolygon(ring, {60, 30}));
+            std::rotate(ring.begin(), ring.begin() + 1, ring.end());
+        }
+        std::reverse(ring.begin(), ring.end());
+    }
+}
+
 TEST(Geometry, KnowsWhichShiftsRound) {
     EXPECT_TRUE(ShiftsExactly({{4000, 1}}, 0.5F, -1));
     for (const PointF& by : {PointF{1e-30F, 0}, PointF{0, 1e-30F}, PointF{0.1F, 0}, PointF{0, 0.1F}}) {
