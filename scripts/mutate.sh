@@ -67,7 +67,7 @@ prepare_copy() {
     (cd "$tree" && find src tests include -type f) | { grep -vxFf <(git ls-files) || true; } | sed "s|^|$tree/|" | xargs -r rm
     cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
         -DCMAKE_CXX_FLAGS=-w -DRULECANVAS_TESTS=ON >"$tree.log" 2>&1 &&
-        build_copy "$tree" "${commands[@]%% *}"
+        build_copy "$tree" scenario_tests class_tests cost_tests torture
 }
 
 # Builds the programs in the copy.
