@@ -119,6 +119,7 @@ TEST(Configurations, OfMarkers) {
         {"CrossShape", "", R"({"rule":[]})", R"({"rule":[]})"},
         {"CrossShape", "2", "{}", "0,0 0,0"},
         {"CrossShape", "-5", "{}", "0,0"},
+        {"CrossShape", "0", "{}", "0,0"},
         {"CrossShape", "2000000000", "{}", "0,0"},
         {"CrossShape", "1025", "{}", "0,0"},
         {"CrossShape", "", "{", Refused},

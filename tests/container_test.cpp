@@ -103,8 +103,10 @@ TEST(Exports, ReadBooleansFromTheLowByteAlone) {
     EXPECT_EQ(EnableVideoAnalyseShape(container, shape, 0xABCDEF80U), 1U);
     EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), shape) << "enabling selects";
     EXPECT_EQ(host.Paint().size(), 2U) << "without showing the handles";
+    host.container.ShowHandles(shape);
     EXPECT_EQ(EnableVideoAnalyseShape(container, shape, 0x100U), 1U);
     EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), 0U);
+    EXPECT_EQ(host.Paint().size(), 2U) << "disabling hides the handles";
     host.Press(150, 150);
     EXPECT_EQ(host.TakeLog(), Lines{}) << "a disabled shape gets no press";
 }
@@ -225,6 +227,9 @@ TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
     host.rectOfViewZero = ClientRect{0, 0, 400, 300};
     EXPECT_TRUE(host.container.RefitShapes());
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[2048,2730]]})") << "the same place of a smaller view";
+    host.TakeLog();
+    host.Click(60, 60);
+    EXPECT_EQ(host.TakeLog()[0], "select rule") << "and it is found there";
     host.Drag({100, 100}, {900, 700});
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
 }

@@ -21,7 +21,7 @@ void Paint(GridScene& scene) {
 /// The points are gone, as when another thread deletes the shape between a walk's look at its list and its call.
 void SendLate(GridScene& scene, const ShapePtr& shape) {
     const ContainerMouseEvent event{RULECANVAS_MOUSE_LEFT_DOWN, 0, 0, 1010, 1010, 0, 0};
-    const PointerEvent late(event, GridRect);
+    const PointerEvent late{event, GridRect};
     shape->ClearShape();
     shape->OnMouseListened(MouseListenerKind::MouseMoved, late);
     shape->ClearShape();

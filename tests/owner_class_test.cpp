@@ -2,13 +2,10 @@
 
 #include "rulecanvas/surface.hpp"
 #include "shape/paint_pass.h"
-#include "shapes/lines/arrow_line_shape.h"
+#include "shape/shape_factory.h"
 #include "shapes/lines/line_shape.h"
-#include "shapes/lines/x_line_shape.h"
-#include "shapes/paths/broken_line_shape.h"
-#include "shapes/paths/polygon_shape.h"
+#include "shapes/paths/click_path_shape.h"
 #include "shapes/regions/rectangle_shape.h"
-#include "shapes/scene/spot_shape.h"
 #include "support/grid_scene.h"
 
 #include <gtest/gtest.h>
@@ -23,13 +20,14 @@ void RULECANVAS_THISCALL CountNotification(void* target, const char* /*text*/, B
 }
 
 /// A shape in a view, but not among the shapes of the view's container.
-template <class Shape>
+template <class Shape = CVideoAnalyseShape>
 struct Owned : test::GridScene {
     std::shared_ptr<Shape> shape;
     int notifications = 0;
 
-    template <class... Arguments>
-    explicit Owned(const Arguments&... arguments) : shape(std::make_shared<Shape>(arguments...)) {
+    explicit Owned(const char* type)
+        : Owned(std::static_pointer_cast<Shape>(CShapeFactory::GetInstance().CreateShape(type))) {}
+    explicit Owned(std::shared_ptr<Shape> made) : shape(std::move(made)) {
         container.SetNotifyDelegate(CDelegate{&notifications, reinterpret_cast<void*>(&CountNotification)});
         shape->SetContainer(&container);
         shape->SetViewId(0, GridRect);
@@ -48,7 +46,7 @@ struct Owned : test::GridScene {
 
     void Press(const PointF& at, int level) {
         const ContainerMouseEvent event{RULECANVAS_MOUSE_LEFT_DOWN, 0, 0, at.x, at.y, 0, 0};
-        shape->HandleLButtonDownEvent(PointerEvent(event, GridRect), level);
+        shape->HandleLButtonDownEvent(PointerEvent{event, GridRect}, level);
     }
 
     int StateAfterStroke(const PointF& from, const PointF& to) {
@@ -60,26 +58,27 @@ struct Owned : test::GridScene {
 };
 
 TEST(OwnedLine, CopiesItsKindAndNamesButNoPoints) {
-    Owned<CLineShape> original(LineOrientation::Vertical);
+    Owned<CLineShape> original("VerticalLineShape");
     original.shape->SetEventName("event");
     original.Configure("name", R"({"name":[[10,10],[10,90]]})", "MovedHLine");
-    Owned<CLineShape> copy(*original.shape);
+    Owned<CLineShape> copy(std::make_shared<CLineShape>(*original.shape));
     EXPECT_EQ(copy.shape->GetName() + copy.shape->GetEventName(), "nameevent");
     EXPECT_EQ(copy.StateAfterStroke({10, 10}, {50, 90}), Drawing) << "level and upright at once: never long enough";
     copy.shape->SetShapePoints({{10, 10}, {10, 90}});
     copy.shape->SetShapePoints({{1, 1}}); // not a line's number of points
     EXPECT_TRUE(copy.shape->MoveShape(5, 7));
     EXPECT_EQ(copy.PointsNow(), (Points{{10, 17}, {10, 97}})) << "its own points, up and down only";
-    Owned<CLineShape> ofUnnamed(*Owned<CLineShape>(LineOrientation::Free).shape);
+    Owned<CLineShape> unnamed("LineShape");
+    Owned<CLineShape> ofUnnamed(std::make_shared<CLineShape>(*unnamed.shape));
     EXPECT_EQ(ofUnnamed.StateAfterStroke({10, 10}, {50, 90}), Waiting) << "no event name either, so it is limited";
 }
 
 TEST(OwnedLine, WithoutAnEventNameIsDrawnInsideItsLimitAreaOnly) {
-    Owned<CXLineShape> area;
+    Owned<> area("XLineShape");
     area.Configure("u", R"({"u":[[30,90],[0,90],[0,0],[90,0],[90,90],[60,90],[60,30],[30,30]]})");
-    Owned<CLineShape> limited(LineOrientation::Free);
+    Owned<CLineShape> limited("LineShape");
     EXPECT_FALSE(limited.shape->SetLimitArea(nullptr));
-    EXPECT_TRUE(limited.shape->SetLimitArea(Owned<CXLineShape>().shape.get()));
+    EXPECT_TRUE(limited.shape->SetLimitArea(Owned<>("XLineShape").shape.get()));
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {80, 10}), Waiting) << "an empty area, nothing inside";
     EXPECT_TRUE(limited.shape->SetLimitArea(area.shape.get()));
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {45, 60}), Waiting) << "ends outside";
@@ -90,7 +89,7 @@ TEST(OwnedLine, WithoutAnEventNameIsDrawnInsideItsLimitAreaOnly) {
 TEST(OwnedLine, IsClippedToAPolygon) {
     const char* const square = R"({"area":[[100,100],[200,100],[200,200],[100,200]]})";
     const auto clipped = [&](const Points& points, const char* key, int mode, const char* text) {
-        Owned<CLineShape> owned(LineOrientation::Free);
+        Owned<CLineShape> owned("LineShape");
         owned.shape->SetShapePoints(points);
         const bool done = owned.shape->ClipToPolygon(text, key, mode);
         EXPECT_EQ(done, owned.PointsNow() != points);
@@ -124,7 +123,7 @@ struct Judge {
 
 TEST(OwnedArrow, AsksItsOwnerBeforeItChanges) {
     Judge owner;
-    Owned<CArrowLineShape> arrow;
+    Owned<> arrow("ArrowLineShape");
     owner.SitOver(arrow.shape->Hooks());
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Waiting) << "the first point is refused";
     EXPECT_EQ(arrow.PointsNow(), Points{});
@@ -150,7 +149,7 @@ TEST(OwnedArrow, AsksItsOwnerBeforeItChanges) {
 
 TEST(OwnedArrow, IsFinishedByTheRightButtonWithItsOwnersConsent) {
     Judge owner{2};
-    Owned<CArrowLineShape> arrow;
+    Owned<> arrow("ArrowLineShape");
     arrow.Configure("rule", "", R"({"XArrowLine":true})");
     owner.SitOver(arrow.shape->Hooks());
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Drawing);
@@ -175,7 +174,7 @@ TEST(OwnedShape, LetsItsOwnerHearAndPlaceInsteadOfTheHost) {
         bool Place(ViewID, const PointF& point) { return point.x < 100; }
         void Create(const ContainerMouseEvent& event) { creations += event.x == 90 ? 1 : 0; }
     } owner;
-    Owned<CRectangleShape> rectangle;
+    Owned<CRectangleShape> rectangle("Rect");
     OwnerHooks& hooks = rectangle.shape->Hooks();
     hooks.SelectNotifyHook = decltype(hooks.SelectNotifyHook)::Bind<&Owner::Select>(&owner);
     hooks.StateNotifyHook = decltype(hooks.StateNotifyHook)::Bind<&Owner::State>(&owner);
@@ -189,7 +188,7 @@ TEST(OwnedShape, LetsItsOwnerHearAndPlaceInsteadOfTheHost) {
 }
 
 TEST(OwnedRectangle, IsPlacedByItsOwner) {
-    Owned<CRectangleShape> owned;
+    Owned<CRectangleShape> owned("Rect");
     CRectangleShape& rectangle = *owned.shape;
     rectangle.PlaceAt({100, 100}, 41, 20);
     EXPECT_EQ(rectangle.GetState(), Complete);
@@ -210,7 +209,7 @@ TEST(OwnedRectangle, IsPlacedByItsOwner) {
 }
 
 TEST(OwnedRectangle, MustCoverItsCropLimit) {
-    Owned<CRectangleShape> owned;
+    Owned<CRectangleShape> owned("Rect");
     owned.shape->PlaceAt({100, 100}, 100, 100);
     owned.shape->SetCropLimit({60, 60, 140, 140});
     struct Case {
@@ -230,10 +229,9 @@ TEST(OwnedRectangle, MustCoverItsCropLimit) {
 }
 
 /// A polygon's move is judged by its vertices, shifted back by what the release lies beyond the last move.
-template <class Shape, class... Arguments>
-void CheckLimit(const PointF& press, const PointF& move, const PointF& refused, const PointF& accepted,
-                Arguments... arguments) {
-    Owned<Shape> owned(arguments...);
+void CheckLimit(const char* type, const PointF& press, const PointF& move, const PointF& refused,
+                const PointF& accepted) {
+    Owned<CClickPathShape> owned(type);
     owned.Configure("rule", R"({"rule":[[100,100],[200,100],[200,200]]})", "EnableRBtnDelete");
     owned.shape->SetLimitRectangle({100, 100, 300, 300});
     owned.Press(press, Inside);
@@ -250,15 +248,14 @@ void CheckLimit(const PointF& press, const PointF& move, const PointF& refused, 
 }
 
 TEST(OwnedPath, EndsADragInsideItsLimitRectangleOnly) {
-    constexpr auto plain = CPolygonShape::EdgePress::Ignored;
-    CheckLimit<CPolygonShape>({200, 200}, {250, 250}, {301, 250}, {300, 250}, plain);
-    CheckLimit<CPolygonShape>({180, 120}, {280, 220}, {279, 219}, {281, 221}, plain);
-    CheckLimit<CBrokenLineShape>({200, 200}, {250, 250}, {99, 250}, {100, 250});
+    CheckLimit("Polygon", {200, 200}, {250, 250}, {301, 250}, {300, 250});
+    CheckLimit("Polygon", {180, 120}, {280, 220}, {279, 219}, {281, 221});
+    CheckLimit("BrokenLine", {200, 200}, {250, 250}, {99, 250}, {100, 250});
 }
 
 TEST(OwnedPath, GrowsWithItsOwnersConsent) {
     Judge owner{2};
-    Owned<CPolygonShape> polygon(CPolygonShape::EdgePress::Ignored);
+    Owned<> polygon("Polygon");
     polygon.Configure("rule", "");
     owner.SitOver(polygon.shape->Hooks());
     for (const PointF& corner : {PointF{10, 10}, PointF{90, 10}, PointF{90, 90}}) {
@@ -272,7 +269,7 @@ TEST(OwnedPath, TellsItsOwnerWhereTheRightButtonRests) {
         int heard = 0;
         void Hear(const PointF& at) { heard += at.x == 500 ? 1 : 0; }
     } owner;
-    Owned<CBrokenLineShape> line;
+    Owned<> line("BrokenLine");
     line.shape->Hooks().CursorHook = decltype(OwnerHooks::CursorHook)::Bind<&Owner::Hear>(&owner);
     line.Configure("rule", R"({"rule":[[100,100],[200,100],[200,200]]})");
     int level = Miss;
@@ -281,65 +278,60 @@ TEST(OwnedPath, TellsItsOwnerWhereTheRightButtonRests) {
     EXPECT_LE(line.shape->GetClaim().left, 0) << "everywhere";
 }
 
-/// The shape keeps to the words of its first configuration when it is configured again without them.
-template <class Shape, class Keeps, class... Arguments>
-void CheckMemory(const char* text, const std::vector<const char*>& words, Keeps keeps, Arguments... arguments) {
-    for (const char* word : words) {
-        Owned<Shape> owned(arguments...);
-        for (const char* option : {"", word, "another", ""}) {
-            ASSERT_TRUE(owned.Configure("rule", text, option));
-        }
-        EXPECT_TRUE(keeps(owned)) << word;
-    }
+struct CountingSurface : Surface {
+    int discs = 0;
+    int outlines = 0;
+    void PaintEllipse(const PointF&, const PointF&, float, const ColorF&, const ColorF&) override { ++discs; }
+    void StrokeRectangle(const PointF&, const PointF&, float, const ColorF&, int32_t) override { ++outlines; }
+};
+
+CountingSurface Painted(Owned<>& owned) {
+    CountingSurface surface;
+    ShapeLook look;
+    PaintPass pass(owned.container, 0, surface, GridRect, look);
+    owned.shape->OnDraw(pass);
+    return surface;
 }
 
 TEST(OwnedShape, RemembersItsModeWordsWhenItIsConfiguredAgain) {
-    struct CountingSurface : Surface {
-        int discs = 0;
-        int outlines = 0;
-        void PaintEllipse(const PointF&, const PointF&, float, const ColorF&, const ColorF&) override { ++discs; }
-        void StrokeRectangle(const PointF&, const PointF&, float, const ColorF&, int32_t) override { ++outlines; }
+    struct Case {
+        const char* type;
+        const char* word;
+        bool (*remembers)(Owned<>& owned);
     };
-    const auto painted = [](auto& owned) {
-        CountingSurface surface;
-        ShapeLook look;
-        PaintPass pass(owned.container, 0, surface, GridRect, look);
-        owned.shape->OnDraw(pass);
-        return surface;
-    };
-    const auto goesByTheRightButton = [](auto& owned) {
+    const auto goesByTheRightButton = [](Owned<>& owned) {
         owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, OnOutline);
         return owned.shape->GetState() == Deleted;
     };
-    const char* const ring = R"({"rule":[[100,100],[200,100],[200,200],[100,200]]})";
-    const char* const corners = R"({"rule":[[100,100],[200,200]]})";
-    constexpr auto plain = CPolygonShape::EdgePress::Ignored;
-    CheckMemory<CSpotShape>(corners, {"solid"}, [&](auto& spot) { return painted(spot).discs == 1; });
-    CheckMemory<CRectangleShape>(corners, {"TextOnly"}, [&](auto& box) { return painted(box).outlines == 0; });
-    CheckMemory<CRectangleShape>(corners, {"EnableRBtnDelete"}, goesByTheRightButton);
-    CheckMemory<CPolygonShape>(ring, {"EnableRBtnDelete"}, goesByTheRightButton, plain);
-    CheckMemory<CPolygonShape>(
-        ring, {"Convex"},
-        [](auto& polygon) {
-            Points dragged;
-            return !polygon.shape->BuildDragPoints(0, {180, 160}, dragged);
-        },
-        plain);
-    CheckMemory<CLineShape>(
-        corners, {"Horizon", "MovedHLine"},
-        [](auto& line) {
-            return line.shape->MoveShape(5, 7) && line.PointsNow()[0] == PointF{100, 107};
-        },
-        LineOrientation::Free);
+    const auto staysConvex = [](Owned<>& owned) {
+        Points dragged;
+        owned.shape->SetShapePoints({{100, 100}, {200, 100}, {200, 200}, {100, 200}});
+        return !owned.shape->BuildDragPoints(0, {180, 160}, dragged);
+    };
+    const auto isUprightBound = [](Owned<>& owned) {
+        return owned.shape->MoveShape(5, 7) && owned.PointsNow()[0] == PointF{100, 107};
+    };
+    for (const Case& c :
+         {Case{"SpotShape", "solid", [](Owned<>& owned) { return Painted(owned).discs == 1; }},
+          Case{"Rect", "TextOnly", [](Owned<>& owned) { return Painted(owned).outlines == 0; }},
+          Case{"Rect", "EnableRBtnDelete", goesByTheRightButton},
+          Case{"Polygon", "EnableRBtnDelete", goesByTheRightButton}, Case{"Polygon", "Convex", staysConvex},
+          Case{"LineShape", "Horizon", isUprightBound}, Case{"LineShape", "MovedHLine", isUprightBound}}) {
+        Owned<> owned(c.type);
+        for (const char* option : {"", c.word, "another", ""}) {
+            ASSERT_TRUE(owned.Configure("rule", R"({"rule":[[100,100],[200,200]]})", option));
+        }
+        EXPECT_TRUE(c.remembers(owned)) << c.type << " " << c.word;
+    }
 }
 
 TEST(OwnedShape, WithoutAContainerTellsNobody) {
-    const auto rectangle = std::make_shared<CRectangleShape>();
+    const ShapePtr rectangle = CShapeFactory::GetInstance().CreateShape("Rect");
     EXPECT_FALSE(rectangle->SetVideoAnalyseShapeData({"rule", R"({"rule":[[1,1],[90,90]]})", "", GridRect}));
     EXPECT_EQ(rectangle->GetState(), Complete);
     Points dragged;
     EXPECT_FALSE(rectangle->BuildDragPoints(0, {20, 20}, dragged)) << "there is no view to stay in";
-    const auto line = std::make_shared<CLineShape>(LineOrientation::Free);
+    const ShapePtr line = CShapeFactory::GetInstance().CreateShape("LineShape");
     EXPECT_FALSE(line->SetVideoAnalyseShapeData({"rule", R"({"rule":[[1,1],[90,90]]})", "", {}}));
     char text[64];
     EXPECT_TRUE(line->GetVideoAnalyseShapeConfigData(text, sizeof(text))) << "asks for the view, and finds none";
