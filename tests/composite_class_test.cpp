@@ -56,6 +56,12 @@ struct Frames : GridScene {
     std::shared_ptr<Frame> first = AddFrame();
     std::shared_ptr<Frame> second = AddFrame();
 
+    Frames() {
+        if (second->GetShapeId() < first->GetShapeId()) {
+            first.swap(second); // identities may be addresses
+        }
+    }
+
     std::shared_ptr<Frame> AddFrame() {
         const ShapeID id = Add("Frame", Corners);
         for (const ShapePtr& shape : container.ShapesInOrder()) {

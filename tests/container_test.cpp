@@ -124,6 +124,10 @@ TEST(Container, DoesNothingUntilItIsEnabled) {
     EXPECT_NE(host.Paint(), Lines{});
 }
 
+uint32_t RULECANVAS_THISCALL KindOfAFunction(const ContainerHandler* /*self*/) {
+    return 0;
+}
+
 TEST(Container, HandsOutHandlersThatCompareEqual) {
     ScenarioHost host;
     const ContainerHandle container = host.container.Handle();
@@ -140,7 +144,7 @@ TEST(Container, HandsOutHandlersThatCompareEqual) {
     EXPECT_EQ(table.equals(mouse.handler, draw.handler), 0U);
     EXPECT_EQ(table.equals(mouse.handler, nullptr), 0U);
     ContainerHandlerTable another = table;
-    another.kind = +[](const ContainerHandler*) RULECANVAS_THISCALL { return 0U; };
+    another.kind = &KindOfAFunction;
     ContainerHandler ofTheHost{&another, mouse.handler->target, mouse.handler->method};
     EXPECT_EQ(table.equals(mouse.handler, &ofTheHost), 0U);
     ContainerHandler ofAnother{&table, nullptr, mouse.handler->method};

@@ -82,6 +82,10 @@ TEST(LateEvents, FindAnOvalWithoutCorners) {
     EXPECT_EQ(oval->GetState(), Complete);
 }
 
+void RULECANVAS_THISCALL Throw(void* /*target*/, ViewID /*view*/, ClientRect* /*out*/) {
+    throw 1;
+}
+
 TEST(LateEvents, AReleaseThatIsLostEndsTheGesturesOfItsViewAlone) {
     GridScene scene;
     const auto startMoving = [&](ViewID view) {
@@ -91,8 +95,7 @@ TEST(LateEvents, AReleaseThatIsLostEndsTheGesturesOfItsViewAlone) {
     };
     startMoving(0);
     startMoving(1);
-    const auto refuse = +[](void*, ViewID, ClientRect*) { throw 1; };
-    scene.container.SetClientRectDelegate(CDelegate{&scene, reinterpret_cast<void*>(refuse)});
+    scene.container.SetClientRectDelegate(CDelegate{&scene, reinterpret_cast<void*>(&Throw)});
     EXPECT_ANY_THROW(scene.Send(RULECANVAS_MOUSE_LEFT_UP, {2000, 2000}));
     std::string states;
     for (const ShapePtr& shape : scene.container.ShapesInOrder()) {

@@ -1,8 +1,8 @@
-// A press that asks only the figures near it ends as one that asks every figure.
+// The indexes and lists behind a press and a paint.
 
+#include "fuzz/two_scenes.h"
 #include "shape/shape_factory.h"
 #include "support/grid_scene.h"
-#include "support/two_scenes.h"
 
 #include <gtest/gtest.h>
 
