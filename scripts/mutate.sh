@@ -17,8 +17,8 @@ work=$root/build/mutate
 patience=60
 # Programs with their arguments. The first ones notice most; the others are built only for a change that those let pass.
 commands=("scenario_tests --gtest_brief=1 --gtest_fail_fast" "class_tests --gtest_brief=1 --gtest_fail_fast"
-          "cost_tests --gtest_brief=1 --gtest_fail_fast" "torture repetition" "torture calls 0 997"
-          "torture throws 0 29" "torture allocations 0 101")
+          "cost_tests --gtest_brief=1 --gtest_fail_fast" "document_tests --gtest_brief=1 --gtest_fail_fast"
+          "torture repetition" "torture calls 0 997" "torture throws 0 29" "torture allocations 0 101")
 
 say() { printf 'mutate: %s\n' "$*"; }
 
@@ -67,7 +67,7 @@ prepare_copy() {
     (cd "$tree" && find src tests include -type f) | { grep -vxFf <(git ls-files) || true; } | sed "s|^|$tree/|" | xargs -r rm
     cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
         -DCMAKE_CXX_FLAGS=-w -DRULECANVAS_TESTS=ON >"$tree.log" 2>&1 &&
-        build_copy "$tree" scenario_tests class_tests cost_tests torture
+        build_copy "$tree" scenario_tests class_tests cost_tests document_tests torture
 }
 
 # Builds the programs in the copy.

@@ -1,6 +1,7 @@
 // Geometry, and the few things that no export reaches.
 
 #include "geometry/arrows.h"
+#include "geometry/grid.h"
 #include "geometry/hit_tests.h"
 #include "geometry/rectangles.h"
 #include "geometry/segments.h"
@@ -24,6 +25,8 @@ TEST(Geometry, TruncatesTowardZeroAndSaturates) {
         EXPECT_EQ(TruncateToInt(value), expected);
     }
     EXPECT_EQ(Span(INT32_MIN, INT32_MAX), INT32_MAX);
+    EXPECT_EQ(ToGrid({5, 5}, {0, 0}).x, 0) << "of a view without a size";
+    EXPECT_EQ(ToGrid({1, 1}, {1, 1}).x, GridSpan);
 }
 
 TEST(Geometry, HasTheTolerancesOfTheEditor) {

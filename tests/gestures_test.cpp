@@ -160,8 +160,8 @@ TEST(Gestures, OnCompletePaths) {
          "79,100 179,100 179,200 79,200"},
         {"Polygon", "", Square, "right 150 150 right 200 150", "", Square},
         // Steps by fractions of a pixel; what was crossed or concave from the beginning may move as it is.
-        {"Polygon", "", Square, "press 150.1 150 move 20 130 move 160 150 release 9 9", Moved,
-         "109,100 209,100 209,200 109,200"},
+        {"Polygon", "", "0,0 300,0 300,300 0,300", "press 1.1 150 move 8100 150 move 160 150 release 9 9", Moved,
+         "158,0 458,0 458,300 158,300"},
         {"Polygon", "", "100,100 200,200 200,100 100,200", "press 110.1 150 move 120 150 release 9 9", Moved,
          "109,100 209,200 209,100 109,200"},
         {"Polygon", "Convex", "100,100 200,100 150,120 100,200", "press 110.1 110 move 120 110 release 9 9", Moved,
