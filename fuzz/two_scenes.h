@@ -67,7 +67,7 @@ inline int PressAskingAll(CVideoAnalyseContainer& container, const ContainerMous
         }
     }
     if (winner != nullptr && isLeft) {
-        winner->HandleLButtonDownEvent(PointerEvent(event, container.GetClientRect(event.viewId)), best);
+        winner->HandleLButtonDownEvent(PointerEvent{event, container.GetClientRect(event.viewId)}, best);
     } else if (winner != nullptr) {
         winner->HandleRButtonEvent(event, best);
     }
@@ -150,13 +150,13 @@ class TwoScenes {
             if (which == 0) {
                 container.DeleteShape(id);
             } else if (which == 1) {
-                container.EnableShape(id, shape->IsEnabled() == (place % 2 == 0));
+                container.DeepFind(id)->EnableShape(shape->IsEnabled() == (place % 2 == 0));
             } else if (which == 2) {
                 container.SelectShape(id, place % 2 == 0);
             } else if (which == 3) {
                 container.RedrawShape(id);
             } else {
-                container.SetShapeMaxPtNum(id, place % 4, 3);
+                container.DeepFind(id)->SetMaxPtNum(place % 4, 3);
             }
         });
     }

@@ -19,14 +19,9 @@ clip_seconds=20
 video=
 sample_video=false
 headless=false
-server=
-
-say() { printf 'demo: %s\n' "$*"; }
-
-die() {
-    printf 'demo: %s\n' "$*" >&2
-    exit 1
-}
+speaker=demo
+# shellcheck source=scripts/show.sh
+source "$root/scripts/show.sh"
 
 usage() { sed -n '2,/^set /{/^set /d;s/^# \{0,1\}//;p}' "${BASH_SOURCE[0]}"; }
 
@@ -56,23 +51,6 @@ build() {
     (cd "$root" && NINJA_STATUS='demo:       [%f/%t] ' cmake --build --preset windows-x86 --target rule_editor)
 }
 
-# Takes the clip out of the distribution's package and leaves its path in `video`.
-fetch_sample_video() {
-    video=$work/vtest.avi
-    [[ -s $video ]] && return 0
-    say "      fetching the clip (package opencv-doc, about 100 MB)"
-    local folder
-    folder=$(mktemp -d "$work/fetch.XXXXXX")
-    (cd "$folder" && apt-get -o APT::Sandbox::User=root download opencv-doc) || die "the package opencv-doc cannot be fetched"
-    dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi' >"$video.part" ||
-        {
-            # In some releases the file is compressed inside the package.
-            dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi.gz' | gunzip >"$video.part"
-        }
-    mv "$video.part" "$video"
-    rm -rf "$folder"
-}
-
 # Turns anything but what the sample host reads itself into YUV4MPEG2.
 convert_video() {
     case $video in
@@ -87,29 +65,6 @@ convert_video() {
     fi
     video=$converted
 }
-
-start_virtual_display() {
-    local number=$work/display
-    : >"$number"
-    Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$number" 2>"$work/xvfb.log" &
-    server=$!
-    trap stop_virtual_display EXIT
-    for _ in $(seq 100); do
-        [[ -s $number ]] && break
-        sleep 0.1
-    done
-    [[ -s $number ]] || die "Xvfb does not start: $work/xvfb.log"
-    DISPLAY=:$(<"$number")
-    export DISPLAY
-}
-
-# Wine's own processes use the display a little longer than the program does and would complain.
-stop_virtual_display() {
-    WINEPREFIX=$root/build/wine-prefix timeout 10 wineserver --wait || true
-    kill "$server" 2>/dev/null || true
-}
-
-windows_path() { printf 'Z:%s' "$(realpath "$1")"; }
 
 rule_editor() {
     local arguments=("$@")
@@ -145,7 +100,7 @@ if $sample_video; then fetch_sample_video; fi
 [[ -z $video ]] || convert_video
 if $headless; then
     say "[3/3] drawing on a virtual display"
-    start_virtual_display
+    start_display
     play_scripts
 else
     say "[3/3] the window opens now; close it to end"

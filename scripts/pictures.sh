@@ -15,14 +15,14 @@ reference=$root/docs/reference/pictures
 # The part of the view that a picture of the reference shows, three times side by side: width:height:left:top.
 part=(300 200 320 170)
 
-say() { printf 'pictures: %s\n' "$*"; }
+speaker=pictures
+# shellcheck source=scripts/show.sh
+source "$root/scripts/show.sh"
 
 build() {
     "$root/scripts/setup.sh" build test demo
     (cd "$root" && cmake --preset windows-x86 >/dev/null && cmake --build --preset windows-x86 --target rule_editor -j2)
 }
-
-windows_path() { printf 'Z:%s' "$(realpath "$1")"; }
 
 # Plays the script $1; its screenshots are then in the folder of the same name.
 play() {

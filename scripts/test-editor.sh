@@ -14,37 +14,9 @@ scripts=$root/examples/rule_editor/scripts
 events=2000
 passed=0
 failed=0
-server=
-
-say() { printf 'editor: %s\n' "$*"; }
-
-die() {
-    printf 'editor: %s\n' "$*" >&2
-    exit 1
-}
-
-start_display() {
-    local number=$work/display
-    : >"$number"
-    Xvfb -displayfd 3 -screen 0 1400x1000x24 -nolisten tcp 3>"$number" 2>"$work/xvfb.log" &
-    server=$!
-    trap stop_display EXIT
-    for _ in $(seq 100); do
-        [[ -s $number ]] && break
-        sleep 0.1
-    done
-    [[ -s $number ]] || die "Xvfb does not start: $work/xvfb.log"
-    DISPLAY=:$(<"$number")
-    export DISPLAY
-}
-
-# Wine's own processes use the display a little longer than the programs do and would complain.
-stop_display() {
-    WINEPREFIX=$root/build/wine-prefix timeout 10 wineserver --wait || true
-    kill "$server" 2>/dev/null || true
-}
-
-windows_path() { printf 'Z:%s' "$(realpath "$1")"; }
+speaker=editor
+# shellcheck source=scripts/show.sh
+source "$root/scripts/show.sh"
 
 rule_editor() { timeout 1200 "$root/scripts/run-wine.sh" "$programs/rule_editor.exe" "$@" 2>&1 | tr -d '\r'; }
 

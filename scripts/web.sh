@@ -14,13 +14,9 @@ clip=$work/clip.webm
 clip_seconds=20
 port=8765
 video=
-
-say() { printf 'web: %s\n' "$*"; }
-
-die() {
-    printf 'web: %s\n' "$*" >&2
-    exit 1
-}
+speaker=web
+# shellcheck source=scripts/show.sh
+source "$root/scripts/show.sh"
 
 read_arguments() {
     while (($# > 0)); do
@@ -36,25 +32,6 @@ read_arguments() {
         esac
         shift
     done
-}
-
-# Takes the clip out of the distribution's package and leaves its path in `video`.
-fetch_sample_video() {
-    video=$work/vtest.avi
-    [[ -s $video ]] && return 0
-    say "fetching the clip (package opencv-doc, about 100 MB)"
-    local folder
-    folder=$(mktemp -d "$work/fetch.XXXXXX")
-    (cd "$folder" && apt-get -o APT::Sandbox::User=root download opencv-doc) ||
-        die "the package opencv-doc cannot be fetched"
-    dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi' >"$video.part" ||
-        {
-            # In some releases the file is compressed inside the package.
-            dpkg-deb --fsys-tarfile "$folder"/opencv-doc_*.deb | tar -xO --wildcards '*/vtest.avi.gz' |
-                gunzip >"$video.part"
-        }
-    mv "$video.part" "$video"
-    rm -rf "$folder"
 }
 
 convert_video() {

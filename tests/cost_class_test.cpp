@@ -31,12 +31,12 @@ size_t locks = 0;
     std::free(memory);
 }
 
-/// Stands before rulecanvas::platform::ContainerMutex::Lock.
-extern "C" void __real__ZN10rulecanvas8platform14ContainerMutex4LockEv(void* self);
-extern "C" void __wrap__ZN10rulecanvas8platform14ContainerMutex4LockEv(void* self);
-extern "C" void __wrap__ZN10rulecanvas8platform14ContainerMutex4LockEv(void* self) {
+/// Stands before rulecanvas::platform::ContainerMutex::lock.
+extern "C" void __real__ZN10rulecanvas8platform14ContainerMutex4lockEv(void* self);
+extern "C" void __wrap__ZN10rulecanvas8platform14ContainerMutex4lockEv(void* self);
+extern "C" void __wrap__ZN10rulecanvas8platform14ContainerMutex4lockEv(void* self) {
     ++locks;
-    __real__ZN10rulecanvas8platform14ContainerMutex4LockEv(self);
+    __real__ZN10rulecanvas8platform14ContainerMutex4lockEv(self);
 }
 
 namespace rulecanvas {

@@ -91,6 +91,7 @@ TEST(OwnedLine, IsClippedToAPolygon) {
     const auto clipped = [&](const Points& points, const char* key, int mode, const char* text) {
         Owned<CLineShape> owned("LineShape");
         owned.shape->SetShapePoints(points);
+        owned.shape->SetViewId(0, {}); // the view's size is learnt when it is needed
         const bool done = owned.shape->ClipToPolygon(text, key, mode);
         EXPECT_EQ(done, owned.PointsNow() != points);
         return owned.PointsNow();

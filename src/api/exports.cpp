@@ -4,13 +4,15 @@
 
 #include "container/container.h"
 #include "container/container_registry.h"
-#include "container/state_report.h"
 #include "shape/json_text.h"
+
+#include <type_traits>
 
 namespace rulecanvas {
 namespace {
 
 using Container = CVideoAnalyseContainer;
+using Shape = CVideoAnalyseShape;
 
 /// Runs one exported call. Whatever it throws (memory, the host's own) ends here as the failure value.
 template <class Call>
@@ -22,54 +24,45 @@ auto Guarded(Call call) -> decltype(call()) {
     }
 }
 
-Bool32 ResultOf(bool result) {
-    return ToBool32(result);
-}
-
-template <class Number>
-Number ResultOf(Number result) {
-    return result;
-}
-
-/// Calls an operation of the container behind a handle; the failure value when there is none.
-template <class Result, class... Parameters, class... Arguments>
-auto Forward(ContainerHandle handle, Result (Container::*operation)(Parameters...), Arguments... arguments) {
+/// Calls the container behind a handle. The result of the call, or for a call without one whether the container is
+/// known; the failure value when it is not.
+template <class Call>
+auto With(ContainerHandle handle, Call call) {
     return Guarded([&] {
+        using Result = decltype(call(std::declval<Container&>()));
         const ContainerPtr container = ContainerRegistry::Instance().Find(handle);
-        return container == nullptr ? decltype(ResultOf(Result()))()
-                                    : ResultOf(((*container).*operation)(arguments...));
-    });
-}
-
-/// Calls an operation without a result: true for every known container.
-template <class... Parameters, class... Arguments>
-Bool32 Do(ContainerHandle handle, void (Container::*operation)(Parameters...), Arguments... arguments) {
-    return Guarded([&] {
-        const ContainerPtr container = ContainerRegistry::Instance().Find(handle);
-        if (container != nullptr) {
-            ((*container).*operation)(arguments...);
+        if constexpr (std::is_void_v<Result>) {
+            if (container != nullptr) {
+                call(*container);
+            }
+            return ToBool32(container != nullptr);
+        } else if constexpr (std::is_same_v<Result, bool>) {
+            return ToBool32(container != nullptr && call(*container));
+        } else {
+            return container != nullptr ? call(*container) : Result();
         }
-        return ToBool32(container != nullptr);
     });
 }
 
 /// Hands what a pointer of the host points to, if anything, to an operation of the container. Whether it did.
 template <class Words, class Operation>
 Bool32 PassOn(ContainerHandle handle, Words* words, Operation operation) {
-    return Guarded([&] {
-        const ContainerPtr container = ContainerRegistry::Instance().Find(handle);
-        const bool passed = container != nullptr && words != nullptr;
-        if (passed) {
-            ((*container).*operation)(*words);
+    return With(handle, [&](Container& container) {
+        if (words != nullptr) {
+            (container.*operation)(*words);
         }
-        return ToBool32(passed);
+        return words != nullptr;
     });
 }
 
-ContainerHandle Create(void* hostObject) {
-    const auto container = std::make_shared<Container>(hostObject);
-    ContainerRegistry::Instance().Insert(container);
-    return container->GetHandle();
+/// Calls an operation of a shape. Whether the shape is known.
+template <class... Parameters, class... Arguments>
+bool Apply(Container& container, ShapeID id, void (Shape::*operation)(Parameters...), Arguments... arguments) {
+    const ShapePtr shape = container.DeepFind(id);
+    if (shape != nullptr) {
+        ((*shape).*operation)(arguments...);
+    }
+    return shape != nullptr;
 }
 
 } // namespace
@@ -77,7 +70,7 @@ ContainerHandle Create(void* hostObject) {
 extern "C" {
 
 ContainerHandle RULECANVAS_CALL CreateVideoAnalyseContainer(void* hostObject) {
-    return Guarded([&] { return Create(hostObject); });
+    return Guarded([&] { return ContainerRegistry::Instance().Insert(std::make_shared<Container>(hostObject)); });
 }
 
 void RULECANVAS_CALL ReleaseVideoAnalyseContainer(ContainerHandle container) {
@@ -87,7 +80,8 @@ void RULECANVAS_CALL ReleaseVideoAnalyseContainer(ContainerHandle container) {
 ShapeID RULECANVAS_CALL CreateMainVideoAnalyseShape(ContainerHandle container, ViewID view, const char* label,
                                                     const char* type, const char* name, const char* config,
                                                     const char* option) {
-    return Forward(container, &Container::CreateMainShape, view, label, type, name, config, option);
+    return With(container,
+                [&](Container& known) { return known.CreateMainShape(view, label, type, name, config, option); });
 }
 
 Bool32 RULECANVAS_CALL GetContainerWinMouseEventHandler(ContainerHandle container, ContainerHandlerHolder* holder) {
@@ -110,40 +104,41 @@ void RULECANVAS_CALL SetAdjustPointCoordinateDelegate(ContainerHandle container,
 
 uint32_t RULECANVAS_CALL AddVideoAnalyseShape(ContainerHandle container, ShapeID shape, uint32_t first, uint32_t second,
                                               uint32_t third) {
-    return Forward(container, &Container::AddToShape, shape, first, second, third);
+    return With(container, [&](Container& known) { return known.AddToShape(shape, first, second, third); });
 }
 
 Bool32 RULECANVAS_CALL DeleteVideoAnalyseShape(ContainerHandle container, ShapeID shape) {
-    return Forward(container, &Container::DeleteShape, shape);
+    return With(container, [&](Container& known) { known.DeleteShape(shape); });
 }
 
 void RULECANVAS_CALL DeleteAllVideoAnalyseShape(ContainerHandle container) {
-    Do(container, &Container::DeleteAllShapes);
+    With(container, [&](Container& known) { known.DeleteAllShapes(); });
 }
 
 Bool32 RULECANVAS_CALL SelectVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 select) {
-    return Forward(container, &Container::SelectShape, shape, ReadBool(select));
+    return With(container, [&](Container& known) { return known.SelectShape(shape, ReadBool(select)); });
 }
 
 int32_t RULECANVAS_CALL SetVideoAnalyseShapeDirection(ContainerHandle container, ShapeID shape, int32_t direction) {
-    return Forward(container, &Container::SetShapeDirection, shape, direction);
+    return With(container, [&](Container& known) { return known.SetShapeDirection(shape, direction); });
 }
 
 Bool32 RULECANVAS_CALL EnableVideoAnalyseContainer(ContainerHandle container, Bool32 enable) {
-    return Forward(container, &Container::Enable, ReadBool(enable));
+    return With(container, [&](Container& known) { known.Enable(ReadBool(enable)); });
 }
 
 Bool32 RULECANVAS_CALL GetVideoAnalyseShapeConfigData(ContainerHandle container, ShapeID shape, char* buffer,
                                                       int32_t size) {
-    return Forward(container, &Container::GetShapeConfig, shape, buffer, size);
+    return With(container, [&](Container& known) { return known.GetShapeConfig(shape, buffer, size); });
 }
 
 Bool32 RULECANVAS_CALL EnableVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 enable) {
-    return Forward(container, &Container::EnableShape, shape, ReadBool(enable));
+    return With(container,
+                [&](Container& known) { return Apply(known, shape, &Shape::EnableShape, ReadBool(enable)); });
 }
 
 Bool32 RULECANVAS_CALL RedrawVideoAnalyseShape(ContainerHandle container, ShapeID shape) {
-    return Forward(container, &Container::RedrawShape, shape);
+    return With(container, [&](Container& known) { return known.RedrawShape(shape); });
 }
 
 Bool32 RULECANVAS_CALL SetGetContainerRectClientDelegate(ContainerHandle container,
@@ -157,15 +152,15 @@ Bool32 RULECANVAS_CALL SetCtrlContainerWinMouseCaptureDelegate(ContainerHandle c
 }
 
 ShapeID RULECANVAS_CALL GetSelectedVideoAnalyseShapeID(ContainerHandle container) {
-    return Forward(container, &Container::GetSelectedShape);
+    return With(container, [&](Container& known) { return known.GetSelectedShape(); });
 }
 
 Bool32 RULECANVAS_CALL SetVideoAnalyseShapeShowName(ContainerHandle container, ShapeID shape, const char* text) {
-    return Do(container, &Container::SetShowName, shape, text);
+    return With(container, [&](Container& known) { known.SetShowName(shape, text); });
 }
 
 Bool32 RULECANVAS_CALL ShowVideoAnalyseShape(ContainerHandle container, ShapeID shape, Bool32 show) {
-    return Do(container, &Container::ShowShape, shape, ReadBool(show));
+    return With(container, [&](Container& known) { Apply(known, shape, &Shape::ShowShape, ReadBool(show)); });
 }
 
 Bool32 RULECANVAS_CALL SetContainerTranslateDelegate(ContainerHandle container,
@@ -174,33 +169,36 @@ Bool32 RULECANVAS_CALL SetContainerTranslateDelegate(ContainerHandle container,
 }
 
 Bool32 RULECANVAS_CALL SetVideoAnalyseContainerTip(ContainerHandle container, ViewID view, const char* tip) {
-    return Do(container, &Container::SetTip, view, tip);
+    return With(container, [&](Container& known) { known.SetTip(view, tip); });
 }
 
 Bool32 RULECANVAS_CALL InvalidateAllShape(ContainerHandle container) {
-    return Do(container, &Container::InvalidateAll);
+    return With(container, [&](Container& known) { known.InvalidateAll(); });
 }
 
 Bool32 RULECANVAS_CALL SetAdjustBoxbShow(ContainerHandle container, ShapeID shape, Bool32 show) {
-    return Do(container, &Container::ShowAdjustBox, shape, ReadBool(show));
+    return With(container, [&](Container& known) { Apply(known, shape, &Shape::SetAdjustBoxShow, ReadBool(show)); });
 }
 
 Bool32 RULECANVAS_CALL SetVideoAnalyseShapeColor(ContainerHandle container, ShapeID shape, int32_t red, int32_t green,
                                                  int32_t blue, Bool32 selectedColour) {
-    return Forward(container, &Container::SetShapeColor, shape, red, green, blue, ReadBool(selectedColour));
+    return With(container, [&](Container& known) {
+        return Apply(known, shape, &Shape::SetShapeColor, red, green, blue, ReadBool(selectedColour));
+    });
 }
 
 Bool32 RULECANVAS_CALL SetVideoAnalyseShapeMaxPtNum(ContainerHandle container, ShapeID shape, int32_t maximum,
                                                     int32_t minimum) {
-    return Forward(container, &Container::SetShapeMaxPtNum, shape, maximum, minimum);
+    return With(container,
+                [&](Container& known) { return Apply(known, shape, &Shape::SetMaxPtNum, maximum, minimum); });
 }
 
 void RULECANVAS_CALL SetPixelCount(ContainerHandle container, int32_t width, int32_t height) {
-    Do(container, &Container::SetPixelCount, width, height);
+    With(container, [&](Container& known) { known.SetPixelCount(width, height); });
 }
 
 void RULECANVAS_CALL GetVideoAnalyseAllShapestates(char* buffer, int32_t size) {
-    Guarded([&] { CopyText(StateReport(ContainerRegistry::Instance().All()), CopyRule::Line, buffer, size); });
+    Guarded([&] { CopyText(ContainerRegistry::Instance().StateReport(), CopyRule::Line, buffer, size); });
 }
 
 } // extern "C"

@@ -4,28 +4,6 @@
 #include <cmath>
 
 namespace rulecanvas {
-namespace {
-
-constexpr size_t WordBits = 64;
-
-bool Holds(const Claim& bounds, const PointF& point) {
-    return bounds.left <= point.x && point.x <= bounds.right && bounds.top <= point.y && point.y <= bounds.bottom;
-}
-
-/// Place of the lowest bit that is set.
-size_t LowestBit(uint64_t word) {
-    size_t place = 0;
-    for (size_t half = WordBits / 2; half > 0; half /= 2) {
-        if ((word << (WordBits - half)) == 0) {
-            word >>= half;
-            place += half;
-        }
-    }
-    return place;
-}
-
-} // namespace
-
 void BoundsTable::Axis::Reset(float lowest, float highest, size_t figureCount) {
     begin = lowest;
     stripsPerPixel = highest > lowest ? static_cast<float>(StripCount) / (highest - lowest) : 0.0F;
@@ -84,8 +62,8 @@ void BoundsTable::Find(const PointF& point, std::vector<uint32_t>& places) const
     const std::vector<uint64_t>& row = rows.StripAt(point.y);
     for (size_t word = 0; word < column.size(); ++word) {
         for (uint64_t near = column[word] & row[word]; near != 0; near &= near - 1) {
-            const size_t place = word * WordBits + LowestBit(near);
-            if (Holds(bounds[place], point)) {
+            const size_t place = word * WordBits + static_cast<size_t>(__builtin_ctzll(near));
+            if (bounds[place].Holds(point)) {
                 places.push_back(static_cast<uint32_t>(place));
             }
         }

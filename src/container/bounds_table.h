@@ -22,6 +22,7 @@ class BoundsTable {
 
   private:
     static constexpr size_t StripCount = 64;
+    static constexpr size_t WordBits = 64;
 
     /// The strips across one axis.
     class Axis {

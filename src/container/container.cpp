@@ -2,33 +2,32 @@
 
 #include "container/container_registry.h"
 #include "platform/trace.h"
-#include "shape/text.h"
 
 namespace rulecanvas {
-
 namespace {
 
 /// Runs an operation of a live container on behalf of the host, to whom no exception may escape.
 template <class Operation>
-void RunForHost(void* address, Operation operation) {
+void RunForHost(void* target, Operation operation) {
     try {
-        if (const ContainerPtr container = ContainerRegistry::Instance().FindByAddress(address)) {
+        const auto handle = static_cast<ContainerHandle>(reinterpret_cast<uintptr_t>(target));
+        if (const ContainerPtr container = ContainerRegistry::Instance().Find(handle)) {
             operation(*container);
         }
     } catch (...) { // the rest of the event is lost
     }
 }
 
-uintptr_t RULECANVAS_THISCALL MouseOperation(void* container, uintptr_t /*ignored*/, uintptr_t event) {
+uintptr_t RULECANVAS_THISCALL MouseOperation(void* target, uintptr_t /*ignored*/, uintptr_t event) {
     if (const auto* record = reinterpret_cast<const ContainerMouseEvent*>(event)) {
-        RunForHost(container, [&](CVideoAnalyseContainer& live) { live.OnMouseEvent(*record); });
+        RunForHost(target, [&](CVideoAnalyseContainer& live) { live.OnMouseEvent(*record); });
     }
     return 0;
 }
 
-uintptr_t RULECANVAS_THISCALL DrawOperation(void* container, uintptr_t view, uintptr_t surface) {
+uintptr_t RULECANVAS_THISCALL DrawOperation(void* target, uintptr_t view, uintptr_t surface) {
     if (auto* graphics = reinterpret_cast<IContainerGraphics*>(surface)) {
-        RunForHost(container, [&](CVideoAnalyseContainer& live) { live.OnDraw(static_cast<ViewID>(view), *graphics); });
+        RunForHost(target, [&](CVideoAnalyseContainer& live) { live.OnDraw(static_cast<ViewID>(view), *graphics); });
     }
     return 0;
 }
@@ -36,7 +35,7 @@ uintptr_t RULECANVAS_THISCALL DrawOperation(void* container, uintptr_t view, uin
 } // namespace
 
 CVideoAnalyseContainer::CVideoAnalyseContainer(void* hostObject)
-    : handle(platform::IssueIdentity(this)), drawHandler(this, &DrawOperation), mouseHandler(this, &MouseOperation),
+    : handle(platform::IssueIdentity(this)), drawHandler(handle, &DrawOperation), mouseHandler(handle, &MouseOperation),
       host(hostObject) {}
 
 CVideoAnalyseContainer::~CVideoAnalyseContainer() {
@@ -45,17 +44,14 @@ CVideoAnalyseContainer::~CVideoAnalyseContainer() {
 
 void CVideoAnalyseContainer::Close() {
     closed = true;
+    host.Forget();
     DeleteAllShapes();
     ForgetHost();
 }
 
-void CVideoAnalyseContainer::Abandon(EndingShapes& ending) {
-    ForgetHost(); // which may be gone, or in the middle of unloading
-    EndShapes(ending);
-}
-
 void CVideoAnalyseContainer::ForgetHost() {
     closed = true;
+    host.Forget();
     const CDelegate none{nullptr, nullptr};
     notifyDelegate.Set(none);
     adjustPointDelegate.Set(none);
@@ -64,61 +60,11 @@ void CVideoAnalyseContainer::ForgetHost() {
     translateDelegate.Set(none);
 }
 
-void CVideoAnalyseContainer::SetTip(ViewID view, const char* text) {
-    const std::lock_guard<std::mutex> guard(tipMutex);
-    tips[view] = TextOrEmpty(text);
-}
-
-void CVideoAnalyseContainer::SetPixelCount(int width, int height) {
-    pixelCountWidth = width;
-    pixelCountHeight = height;
-}
-
-ClientRect CVideoAnalyseContainer::GetClientRect(ViewID view) {
-    ClientRect rect{};
-    clientRectDelegate(view, &rect);
-    return rect;
-}
-
-void CVideoAnalyseContainer::RequestCapture(bool take) {
-    captureDelegate(ToBool32(take));
-}
-
-void CVideoAnalyseContainer::SendHostHint(uint32_t value) {
-    if (!closed) {
-        host.SetInteractionHint(value);
-    }
-}
-
-void CVideoAnalyseContainer::Notify(const std::string& event) {
-    notifyDelegate(event.c_str(), 0);
-}
-
-ViewSize CVideoAnalyseContainer::GetPixelCount() {
-    return ViewSize{pixelCountWidth, pixelCountHeight};
-}
-
-void CVideoAnalyseContainer::RegisterWinMouseEvent(MouseListenerKind kind, const ShapePtr& listener) {
-    ListenersOf(kind).Register(listener);
-}
-
 void CVideoAnalyseContainer::unRegisterWinMouseEvent(MouseListenerKind kind, CVideoAnalyseShape& listener) {
     if (kind == MouseListenerKind::MouseMoved) {
         DebugTrace("unRegisterWinMouseEvent:MOUSE_MOVED_EVENT\n");
     }
     ListenersOf(kind).Unregister(listener);
-}
-
-void CVideoAnalyseContainer::RegisterDrawEvent(const ShapePtr& listener) {
-    drawListeners.Register(listener);
-}
-
-void CVideoAnalyseContainer::unRegisterDrawEvent(CVideoAnalyseShape& listener) {
-    drawListeners.Unregister(listener);
-}
-
-void CVideoAnalyseContainer::ClaimChanged(CVideoAnalyseShape& shape) {
-    pressIndex.MarkStale(shape.GetShapeId());
 }
 
 } // namespace rulecanvas

@@ -7,6 +7,7 @@
 #include "container/press_index.h"
 #include "container/shape_map.h"
 #include "shape/shape_container.h"
+#include "shape/text.h"
 
 #include <atomic>
 #include <map>
@@ -34,7 +35,10 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     /// Ends the shapes, then forgets the host.
     void Close();
     /// The same without the host hearing of it, for a container that goes with the library.
-    void Abandon(EndingShapes& ending);
+    void Abandon(EndingShapes& ending) {
+        ForgetHost(); // which may be gone, or in the middle of unloading
+        EndShapes(ending);
+    }
 
     void SetNotifyDelegate(const CDelegate& delegate) { notifyDelegate.Set(delegate); }
     void SetAdjustPointDelegate(const CDelegate& delegate) { adjustPointDelegate.Set(delegate); }
@@ -48,40 +52,51 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     ShapeID CreateMainShape(ViewID view, const char* label, const char* typeName, const char* shapeName,
                             const char* config, const char* option);
     uint32_t AddToShape(ShapeID id, uint32_t first, uint32_t second, uint32_t third);
-    bool DeleteShape(ShapeID id);
+    void DeleteShape(ShapeID id);
     void DeleteAllShapes();
     bool SelectShape(ShapeID id, bool select);
     int SetShapeDirection(ShapeID id, int direction);
-    bool Enable(bool enable);
+    void Enable(bool enable) { enabled = enable; }
     bool GetShapeConfig(ShapeID id, char* buffer, int size);
-    bool EnableShape(ShapeID id, bool enable);
     bool RedrawShape(ShapeID id);
     ShapeID GetSelectedShape();
     void SetShowName(ShapeID id, const char* text);
-    void ShowShape(ShapeID id, bool show);
-    void SetTip(ViewID view, const char* text);
+    void SetTip(ViewID view, const char* text) {
+        const std::lock_guard guard(tipMutex);
+        tips[view] = TextOrEmpty(text);
+    }
+
     /// Refits every shape to the view.
     void InvalidateAll();
-    void ShowAdjustBox(ShapeID id, bool show);
-    bool SetShapeColor(ShapeID id, int red, int green, int blue, bool selectedColour);
-    bool SetShapeMaxPtNum(ShapeID id, int maximum, int minimum);
-    void SetPixelCount(int width, int height);
+    void SetPixelCount(int width, int height) {
+        pixelCountWidth = width;
+        pixelCountHeight = height;
+    }
+
+    /// The shape, or the part of a shape, of that identity; null when unknown.
+    ShapePtr DeepFind(ShapeID id) const;
     ShapeSnapshot ShapesInOrder() const { return shapes.InOrder(); }
 
     void OnMouseEvent(const ContainerMouseEvent& event);
     void OnDraw(ViewID view, IContainerGraphics& surface);
 
-    ClientRect GetClientRect(ViewID view) override;
-    void RequestCapture(bool take) override;
-    void RegisterWinMouseEvent(MouseListenerKind kind, const ShapePtr& listener) override;
+    ClientRect GetClientRect(ViewID view) override {
+        ClientRect rect{};
+        clientRectDelegate(view, &rect);
+        return rect;
+    }
+    void RequestCapture(bool take) override { captureDelegate(ToBool32(take)); }
+    void RegisterWinMouseEvent(MouseListenerKind kind, const ShapePtr& listener) override {
+        ListenersOf(kind).Register(listener);
+    }
     void unRegisterWinMouseEvent(MouseListenerKind kind, CVideoAnalyseShape& listener) override;
-    void RegisterDrawEvent(const ShapePtr& listener) override;
-    void unRegisterDrawEvent(CVideoAnalyseShape& listener) override;
-    void SendHostHint(uint32_t value) override;
+    void RegisterDrawEvent(const ShapePtr& listener) override { drawListeners.Register(listener); }
+    void unRegisterDrawEvent(CVideoAnalyseShape& listener) override { drawListeners.Unregister(listener); }
+    void SendHostHint(uint32_t value) override { host.Call(RULECANVAS_HOST_SET_INTERACTION_HINT, value); }
     bool HasNotifyDelegate() const override { return notifyDelegate.IsSet(); }
-    void Notify(const std::string& event) override;
-    ViewSize GetPixelCount() override;
-    void ClaimChanged(CVideoAnalyseShape& shape) override;
+    void Notify(const std::string& event) override { notifyDelegate(event.c_str(), 0); }
+    ViewSize GetPixelCount() override { return ViewSize{pixelCountWidth, pixelCountHeight}; }
+    void ClaimChanged(CVideoAnalyseShape& shape) override { pressIndex.MarkStale(shape.GetShapeId()); }
     void FitChanged() override { fitChanged = true; }
 
   private:
@@ -91,24 +106,18 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     struct Hit {
         ShapePtr shape;
         int level = Miss;
-
-        bool Exists() const { return shape != nullptr && !shape->IsRetired(); }
     };
 
-    template <class Operation>
-    bool Apply(ShapeID id, Operation operation);
-    ShapePtr DeepFind(ShapeID id) const;
     ShapePtr FindParent(ShapeID id) const;
 
     Hit FindHitShape(const ContainerMouseEvent& event, HitTest hitTest);
-    void DispatchLeftDown(const ContainerMouseEvent& event);
-    void DispatchRightDown(const ContainerMouseEvent& event, HitTest hitTest);
+    void DispatchPress(const ContainerMouseEvent& event, HitTest hitTest);
     void DispatchMove(const ContainerMouseEvent& event);
     void DispatchCursorQuery(const ContainerMouseEvent& event);
     void DispatchKey(const ContainerMouseEvent& event);
     ListenerList& ListenersOf(MouseListenerKind kind);
     void Feed(MouseListenerKind kind, const ContainerMouseEvent& event);
-    void RequestRedraw();
+    void RequestRedraw() { host.Call(RULECANVAS_HOST_REQUEST_REDRAW, 0); }
     void OfferToComposites(const ContainerMouseEvent& event);
 
     std::string TipOf(ViewID view) const;
@@ -143,7 +152,7 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     mutable std::mutex tipMutex;
     std::map<ViewID, std::string> tips;
     TextStyle containerTextStyle{OpaqueColour(255, 255, 0), 0.0F, "STHeitiSC-Light"};
-    const HostCalls host;
+    HostObject host;
     /// Held while shapes are inserted, deleted or refitted, also across their calls: the thread that holds it may call
     /// back.
     platform::ContainerMutex containerMutex;

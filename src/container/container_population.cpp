@@ -3,35 +3,9 @@
 #include "container/container.h"
 #include "platform/trace.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
-
-#include <utility>
 
 namespace rulecanvas {
-
-using platform::LockGuard;
-
 namespace {
-
-/// Ends a shape that was never handed to the host.
-class UnfinishedShape {
-  public:
-    explicit UnfinishedShape(ShapePtr unfinished) : shape(std::move(unfinished)) {}
-    ~UnfinishedShape() {
-        if (shape != nullptr) {
-            EndingShapes().Add(shape);
-        }
-    }
-    UnfinishedShape(const UnfinishedShape&) = delete;
-    UnfinishedShape& operator=(const UnfinishedShape&) = delete;
-
-    CVideoAnalyseShape* operator->() const { return shape.get(); }
-    const ShapePtr& Get() const { return shape; }
-    ShapePtr Finish() { return std::exchange(shape, nullptr); }
-
-  private:
-    ShapePtr shape;
-};
 
 void TraceRefusal(const char* shapeName, const Refusal& refusal) {
     if (IsTracing()) {
@@ -44,13 +18,14 @@ void TraceRefusal(const char* shapeName, const Refusal& refusal) {
 
 ShapeID CVideoAnalyseContainer::CreateMainShape(ViewID view, const char* label, const char* typeName,
                                                 const char* shapeName, const char* config, const char* option) {
-    ShapePtr made = CShapeFactory::GetInstance().CreateShape(TextOrEmpty(typeName));
-    if (made == nullptr) {
+    const ShapePtr shape = CShapeFactory::GetInstance().CreateShape(TextOrEmpty(typeName));
+    if (shape == nullptr) {
         TraceRefusal(shapeName, {"a registered type", "\"" + std::string(TextOrEmpty(typeName)) + "\"", "type"});
         return 0;
     }
     const ClientRect clientRect = GetClientRect(view);
-    UnfinishedShape shape(std::move(made));
+    const auto end = [&](const ShapePtr* /*unfinished*/) { EndingShapes().Add(shape); };
+    std::unique_ptr<const ShapePtr, decltype(end)> unfinished(&shape, end);
     shape->SetContainer(this);
     shape->SetEventName(label);
     shape->SetViewId(view, clientRect);
@@ -63,13 +38,14 @@ ShapeID CVideoAnalyseContainer::CreateMainShape(ViewID view, const char* label, 
         return 0;
     }
     LockGuard guard(containerMutex);
-    shapes.Insert(shape.Get());
+    shapes.Insert(shape);
     pressIndex.Invalidate();
     fitChanged = true;
-    return shape.Finish()->GetShapeId();
+    static_cast<void>(unfinished.release());
+    return shape->GetShapeId();
 }
 
-bool CVideoAnalyseContainer::DeleteShape(ShapeID id) {
+void CVideoAnalyseContainer::DeleteShape(ShapeID id) {
     const ShapePtr shape = shapes.Find(id);
     LockGuard guard(containerMutex);
     if (shape != nullptr) {
@@ -77,7 +53,6 @@ bool CVideoAnalyseContainer::DeleteShape(ShapeID id) {
     } else if (const ShapePtr parent = FindParent(id)) {
         parent->RemoveSubShape(id);
     }
-    return true;
 }
 
 void CVideoAnalyseContainer::EndShape(const ShapePtr& shape) {

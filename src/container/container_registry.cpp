@@ -1,19 +1,10 @@
 #include "container/container_registry.h"
 
 #include "container/container.h"
+#include "shape/json_text.h"
+#include "shape/notifications.h"
 
 namespace rulecanvas {
-namespace {
-
-using Guard = std::lock_guard<std::mutex>;
-
-template <class Map, class Key>
-ContainerPtr FindIn(const Map& map, const Key& key) {
-    const auto found = map.find(key);
-    return found == map.end() ? nullptr : found->second;
-}
-
-} // namespace
 
 ContainerRegistry& ContainerRegistry::Instance() {
     static ContainerRegistry registry;
@@ -22,52 +13,43 @@ ContainerRegistry& ContainerRegistry::Instance() {
 
 ContainerRegistry::~ContainerRegistry() {
     EndingShapes ending;
-    for (const auto& [handle, container] : byHandle) {
+    for (const auto& [handle, container] : containers) {
         container->Abandon(ending);
     }
 }
 
-void ContainerRegistry::Insert(const ContainerPtr& container) {
-    const Guard guard(mutex);
-    byAddress.emplace(container.get(), container);
-    try {
-        byHandle.emplace(container->GetHandle(), container);
-    } catch (...) {
-        byAddress.erase(container.get());
-        throw;
+ContainerHandle ContainerRegistry::Insert(const ContainerPtr& container) {
+    const std::lock_guard guard(mutex);
+    containers.emplace(container->GetHandle(), container);
+    return container->GetHandle();
+}
+
+void ContainerRegistry::Erase(ContainerHandle handle) {
+    std::unique_lock guard(mutex);
+    const auto erased = containers.extract(handle);
+    guard.unlock();
+    if (!erased.empty()) {
+        erased.mapped()->Close();
     }
 }
 
-void ContainerRegistry::Erase(uint32_t handle) {
-    const ContainerPtr container = Find(handle);
-    if (container == nullptr) {
-        return;
-    }
-    {
-        const Guard guard(mutex);
-        byHandle.erase(handle);
-        byAddress.erase(container.get());
-    }
-    container->Close();
+ContainerPtr ContainerRegistry::Find(ContainerHandle handle) const {
+    const std::lock_guard guard(mutex);
+    const auto found = containers.find(handle);
+    return found == containers.end() ? nullptr : found->second;
 }
 
-ContainerPtr ContainerRegistry::Find(uint32_t handle) const {
-    const Guard guard(mutex);
-    return FindIn(byHandle, handle);
-}
-
-ContainerPtr ContainerRegistry::FindByAddress(const void* address) const {
-    const Guard guard(mutex);
-    return FindIn(byAddress, address);
-}
-
-std::vector<ContainerPtr> ContainerRegistry::All() const {
-    const Guard guard(mutex);
-    std::vector<ContainerPtr> all;
-    for (const auto& [handle, container] : byHandle) {
-        all.push_back(container);
+std::string ContainerRegistry::StateReport() const {
+    std::unique_lock guard(mutex);
+    const auto reported = containers; // the shapes are asked without the lock
+    guard.unlock();
+    Json::Value report;
+    for (const auto& [handle, container] : reported) {
+        for (const ShapePtr& shape : container->ShapesInOrder()) {
+            report.append(StateOf(*shape));
+        }
     }
-    return all;
+    return WriteJson(report);
 }
 
 } // namespace rulecanvas

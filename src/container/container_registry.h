@@ -1,10 +1,11 @@
 #pragma once
 
-#include <cstdint>
+#include "rulecanvas/rulecanvas.h"
+
 #include <map>
 #include <memory>
 #include <mutex>
-#include <vector>
+#include <string>
 
 namespace rulecanvas {
 
@@ -22,23 +23,20 @@ class ContainerRegistry {
     ContainerRegistry(const ContainerRegistry&) = delete;
     ContainerRegistry& operator=(const ContainerRegistry&) = delete;
 
-    void Insert(const ContainerPtr& container);
+    /// The container's handle.
+    ContainerHandle Insert(const ContainerPtr& container);
     /// Ends the container; nothing happens for an unknown handle.
-    void Erase(uint32_t handle);
-    /// Null when unknown.
-    ContainerPtr Find(uint32_t handle) const;
-    /// The container that a host's handler names by its address; a handler can outlive its container and then finds
-    /// null.
-    ContainerPtr FindByAddress(const void* address) const;
-    /// In ascending order of handle.
-    std::vector<ContainerPtr> All() const;
+    void Erase(ContainerHandle handle);
+    /// Null when unknown: a handle, and a handler of the host, can outlive its container.
+    ContainerPtr Find(ContainerHandle handle) const;
+    /// One line of JSON: an array with the state of every shape, in ascending order of handle, or null without shapes.
+    std::string StateReport() const;
 
   private:
     ContainerRegistry() = default;
 
     mutable std::mutex mutex;
-    std::map<uint32_t, ContainerPtr> byHandle;
-    std::map<const void*, ContainerPtr> byAddress;
+    std::map<ContainerHandle, ContainerPtr> containers;
 };
 
 } // namespace rulecanvas

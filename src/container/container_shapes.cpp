@@ -4,21 +4,6 @@
 
 namespace rulecanvas {
 
-/// Whether there is such a shape.
-template <class Operation>
-bool CVideoAnalyseContainer::Apply(ShapeID id, Operation operation) {
-    const ShapePtr shape = DeepFind(id);
-    if (shape != nullptr) {
-        operation(*shape);
-    }
-    return shape != nullptr;
-}
-
-bool CVideoAnalyseContainer::Enable(bool enable) {
-    enabled = enable;
-    return true;
-}
-
 uint32_t CVideoAnalyseContainer::AddToShape(ShapeID id, uint32_t first, uint32_t second, uint32_t third) {
     const ShapePtr shape = shapes.Find(id);
     return shape == nullptr ? 0 : shape->AddSubShape(first, second, third);
@@ -40,10 +25,6 @@ int CVideoAnalyseContainer::SetShapeDirection(ShapeID id, int direction) {
 bool CVideoAnalyseContainer::GetShapeConfig(ShapeID id, char* buffer, int size) {
     const ShapePtr shape = DeepFind(id);
     return shape != nullptr && shape->GetVideoAnalyseShapeConfigData(buffer, size);
-}
-
-bool CVideoAnalyseContainer::EnableShape(ShapeID id, bool enable) {
-    return Apply(id, [&](CVideoAnalyseShape& shape) { shape.EnableShape(enable); });
 }
 
 bool CVideoAnalyseContainer::RedrawShape(ShapeID id) {
@@ -69,22 +50,6 @@ void CVideoAnalyseContainer::SetShowName(ShapeID id, const char* text) {
     } else if (const ShapePtr parent = FindParent(id)) {
         parent->SetSubShapeShowName(id, text);
     }
-}
-
-void CVideoAnalyseContainer::ShowShape(ShapeID id, bool show) {
-    Apply(id, [&](CVideoAnalyseShape& shape) { shape.ShowShape(show); });
-}
-
-void CVideoAnalyseContainer::ShowAdjustBox(ShapeID id, bool show) {
-    Apply(id, [&](CVideoAnalyseShape& shape) { shape.SetAdjustBoxShow(show); });
-}
-
-bool CVideoAnalyseContainer::SetShapeColor(ShapeID id, int red, int green, int blue, bool selectedColour) {
-    return Apply(id, [&](CVideoAnalyseShape& shape) { shape.SetShapeColor(red, green, blue, selectedColour); });
-}
-
-bool CVideoAnalyseContainer::SetShapeMaxPtNum(ShapeID id, int maximum, int minimum) {
-    return Apply(id, [&](CVideoAnalyseShape& shape) { shape.SetMaxPtNum(maximum, minimum); });
 }
 
 ShapePtr CVideoAnalyseContainer::DeepFind(ShapeID id) const {

@@ -3,12 +3,6 @@
 #include <algorithm>
 
 namespace rulecanvas {
-namespace {
-
-/// Milliseconds; long enough for a paint to finish with a figure.
-constexpr int PauseBeforeEnd = 10;
-
-} // namespace
 
 void EndingShapes::Add(const ShapePtr& shape) noexcept {
     if (shape->ClaimRetirement()) {
@@ -25,8 +19,9 @@ void EndingShapes::AddClaimed(const ShapePtr& shape) noexcept {
 }
 
 EndingShapes::~EndingShapes() {
+    constexpr int milliseconds = 10; // long enough for a paint to finish with a figure
     if (std::any_of(shapes.begin(), shapes.end(), [](const ShapePtr& shape) { return shape->AwaitsPaint(); })) {
-        platform::Pause(PauseBeforeEnd);
+        platform::Pause(milliseconds);
     }
     for (const ShapePtr& shape : shapes) {
         shape->FreeFigure();

@@ -37,19 +37,15 @@ const ContainerHandlerTable Table{&Destroy, &Kind, &Invoke, &Equals, &Clone};
 
 } // namespace
 
-HandlerHolder::HandlerHolder(void* container, HandlerOperation operation)
-    : handler(new ContainerHandler{&Table, container, reinterpret_cast<void*>(operation)}) {}
-
-HandlerHolder::~HandlerHolder() {
-    Destroy(handler, FreeObject);
-}
+HandlerHolder::HandlerHolder(ContainerHandle container, HandlerOperation operation)
+    : handler{&Table, reinterpret_cast<void*>(uintptr_t{container}), reinterpret_cast<void*>(operation)} {}
 
 void HandlerHolder::CopyTo(ContainerHandlerHolder& hostHolder) const {
     if (hostHolder.handler != nullptr) {
         hostHolder.handler->table->destroy(hostHolder.handler, FreeObject);
         hostHolder.handler = nullptr;
     }
-    hostHolder.handler = Clone(handler);
+    hostHolder.handler = Clone(&handler);
 }
 
 } // namespace rulecanvas

@@ -3,28 +3,27 @@
 #include "rulecanvas/rulecanvas.h"
 #include "shape/delegate.h"
 
+#include <atomic>
 #include <mutex>
 
 namespace rulecanvas {
 
 /// The object that the host gave at creation; null is never called.
-class HostCalls {
+class HostObject {
   public:
-    explicit HostCalls(void* hostObject) : host(hostObject) {}
+    explicit HostObject(void* hostObject) : host(hostObject) {}
 
-    void SetInteractionHint(uint32_t value) const { Call(RULECANVAS_HOST_SET_INTERACTION_HINT, value); }
-    void RequestRedraw(uint32_t value) const { Call(RULECANVAS_HOST_REQUEST_REDRAW, value); }
-
-  private:
-    using Operation = void(RULECANVAS_THISCALL*)(void* host, uint32_t value);
-
+    void Forget() { host = nullptr; }
+    /// `place` is that of the operation in the host's table.
     void Call(int place, uint32_t value) const {
-        if (host != nullptr) {
-            (*static_cast<Operation**>(host))[place](host, value);
+        using Operation = void(RULECANVAS_THISCALL*)(void* host, uint32_t value);
+        if (void* const live = host) {
+            (*static_cast<Operation**>(live))[place](live, value);
         }
     }
 
-    void* host;
+  private:
+    std::atomic<void*> host;
 };
 
 /// A delegate of the host that any thread may replace while others call it.
@@ -35,7 +34,7 @@ template <class Result, class... Arguments>
 class HostDelegate<Result(Arguments...)> {
   public:
     void Set(const CDelegate& words) {
-        const std::lock_guard<std::mutex> guard(mutex);
+        const std::lock_guard guard(mutex);
         delegate = Delegate<Result(Arguments...)>(words);
     }
 
@@ -45,7 +44,7 @@ class HostDelegate<Result(Arguments...)> {
 
   private:
     Delegate<Result(Arguments...)> Current() const {
-        const std::lock_guard<std::mutex> guard(mutex);
+        const std::lock_guard guard(mutex);
         return delegate;
     }
 

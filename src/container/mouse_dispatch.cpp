@@ -1,13 +1,6 @@
 #include "container/container.h"
 
 namespace rulecanvas {
-namespace {
-
-constexpr uint32_t GrabHint = 4;
-constexpr uint32_t Redraw = 0;
-constexpr uint16_t EscapeKey = 27;
-
-} // namespace
 
 void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
     if (!enabled) {
@@ -15,13 +8,13 @@ void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
     }
     switch (event.code) {
     case RULECANVAS_MOUSE_LEFT_DOWN:
-        return DispatchLeftDown(event);
+        return DispatchPress(event, &CVideoAnalyseShape::HitTestLButtonDown);
     case RULECANVAS_MOUSE_LEFT_UP:
         return Feed(MouseListenerKind::ButtonUp, event);
     case RULECANVAS_MOUSE_MOVED:
         return DispatchMove(event);
     case RULECANVAS_MOUSE_RIGHT_DOWN:
-        return DispatchRightDown(event, &CVideoAnalyseShape::HitTestRButtonDown);
+        return DispatchPress(event, &CVideoAnalyseShape::HitTestRButtonDown);
     case RULECANVAS_MOUSE_RIGHT_UP:
         return Feed(MouseListenerKind::RightButtonUp, event);
     case RULECANVAS_MOUSE_MOVED_EVENT:
@@ -29,7 +22,7 @@ void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
     case RULECANVAS_MOUSE_CURSOR_QUERY:
         return DispatchCursorQuery(event);
     case RULECANVAS_MOUSE_ALT_RIGHT_DOWN:
-        return DispatchRightDown(event, &CVideoAnalyseShape::HitTestAltRButtonEvent);
+        return DispatchPress(event, &CVideoAnalyseShape::HitTestAltRButtonEvent);
     case RULECANVAS_MOUSE_KEY_DOWN:
         return DispatchKey(event);
     default:
@@ -37,20 +30,16 @@ void CVideoAnalyseContainer::OnMouseEvent(const ContainerMouseEvent& event) {
     }
 }
 
-void CVideoAnalyseContainer::DispatchLeftDown(const ContainerMouseEvent& event) {
-    const Hit hit = FindHitShape(event, &CVideoAnalyseShape::HitTestLButtonDown);
-    if (hit.Exists()) {
-        SetTip(event.viewId, "");
-        const PointerEvent press(event, GetClientRect(event.viewId));
-        hit.shape->HandleLButtonDownEvent(press, hit.level);
+void CVideoAnalyseContainer::DispatchPress(const ContainerMouseEvent& event, HitTest hitTest) {
+    const auto [shape, level] = FindHitShape(event, hitTest);
+    if (shape == nullptr || shape->IsRetired()) {
+        return;
     }
-}
-
-void CVideoAnalyseContainer::DispatchRightDown(const ContainerMouseEvent& event, HitTest hitTest) {
-    const Hit hit = FindHitShape(event, hitTest);
-    if (hit.Exists()) {
-        hit.shape->HandleRButtonEvent(event, hit.level);
+    if (event.code != RULECANVAS_MOUSE_LEFT_DOWN) {
+        return shape->HandleRButtonEvent(event, level);
     }
+    SetTip(event.viewId, "");
+    shape->HandleLButtonDownEvent(PointerEvent{event, GetClientRect(event.viewId)}, level);
 }
 
 void CVideoAnalyseContainer::DispatchMove(const ContainerMouseEvent& event) {
@@ -62,14 +51,16 @@ void CVideoAnalyseContainer::DispatchMove(const ContainerMouseEvent& event) {
 }
 
 void CVideoAnalyseContainer::DispatchCursorQuery(const ContainerMouseEvent& event) {
+    constexpr uint32_t grabHint = 4;
     if (hitLevel == Inside || hitLevel == OnOutline) {
-        SendHostHint(GrabHint);
+        SendHostHint(grabHint);
     }
     Feed(MouseListenerKind::MouseMoved, event);
 }
 
 void CVideoAnalyseContainer::DispatchKey(const ContainerMouseEvent& event) {
-    if (event.keyCode == EscapeKey) {
+    constexpr uint16_t escapeKey = 27;
+    if (event.keyCode == escapeKey) {
         RequestRedraw();
     }
     OfferToComposites(event);
@@ -104,12 +95,6 @@ CVideoAnalyseContainer::Hit CVideoAnalyseContainer::FindHitShape(const Container
     return best;
 }
 
-void CVideoAnalyseContainer::RequestRedraw() {
-    if (!closed) {
-        host.RequestRedraw(Redraw);
-    }
-}
-
 /// No other shape heeds what it does not listen to.
 void CVideoAnalyseContainer::OfferToComposites(const ContainerMouseEvent& event) {
     for (const ShapePtr& shape : shapes.Composites()) {
@@ -120,15 +105,10 @@ void CVideoAnalyseContainer::OfferToComposites(const ContainerMouseEvent& event)
 }
 
 ListenerList& CVideoAnalyseContainer::ListenersOf(MouseListenerKind kind) {
-    switch (kind) {
-    case MouseListenerKind::ButtonUp:
-        return buttonUpListeners;
-    case MouseListenerKind::RightButtonUp:
-        return rightButtonUpListeners;
-    case MouseListenerKind::MouseMoved:
-        break;
+    if (kind == MouseListenerKind::MouseMoved) {
+        return mouseMovedListeners;
     }
-    return mouseMovedListeners;
+    return kind == MouseListenerKind::ButtonUp ? buttonUpListeners : rightButtonUpListeners;
 }
 
 /// The host is asked for the view's rectangle once, and only when someone listens.
@@ -139,7 +119,7 @@ void CVideoAnalyseContainer::Feed(MouseListenerKind kind, const ContainerMouseEv
         return;
     }
     try {
-        const PointerEvent fed(event, GetClientRect(event.viewId));
+        const PointerEvent fed{event, GetClientRect(event.viewId)};
         listeners.Invoke(*walked, [&](CVideoAnalyseShape& shape) { shape.OnMouseListened(kind, fed); });
     } catch (...) {
         if (kind == MouseListenerKind::ButtonUp) { // a release that is lost must not leave anyone waiting for it

@@ -6,8 +6,6 @@
 namespace rulecanvas {
 namespace {
 
-using Guard = std::lock_guard<std::mutex>;
-
 /// Appends the places of flags that are set, at most `limit` of them.
 void AppendFlagged(const std::vector<uint8_t>& flags, size_t limit, std::vector<uint32_t>& places) {
     auto at = flags.begin();
@@ -23,15 +21,15 @@ void AppendFlagged(const std::vector<uint8_t>& flags, size_t limit, std::vector<
 } // namespace
 
 void PressIndex::Invalidate() {
-    const Guard searchGuard(searchMutex);
+    const std::lock_guard searchGuard(searchMutex);
     views.clear(); // a shape that was deleted must not live on here
-    const Guard guard(staleMutex);
+    const std::lock_guard guard(staleMutex);
     shapesChanged = true;
     stale.clear();
 }
 
 void PressIndex::MarkStale(ShapeID id) noexcept {
-    const Guard guard(staleMutex);
+    const std::lock_guard guard(staleMutex);
     if (shapesChanged) {
         return;
     }
@@ -43,7 +41,7 @@ void PressIndex::MarkStale(ShapeID id) noexcept {
 }
 
 ShapeVector PressIndex::FindCandidates(const ShapeMap& shapes, ViewID viewId, const PointF& press) {
-    const Guard guard(searchMutex);
+    const std::lock_guard guard(searchMutex);
     Refresh(shapes);
     const View& view = ViewOf(viewId);
     if (std::isnan(press.x) || std::isnan(press.y)) {
@@ -70,7 +68,7 @@ void PressIndex::Refresh(const ShapeMap& shapes) {
     std::vector<ShapeID> changed;
     bool rebuild = false;
     {
-        const Guard guard(staleMutex);
+        const std::lock_guard guard(staleMutex);
         changed.swap(stale);
         rebuild = std::exchange(shapesChanged, false);
     }
@@ -84,11 +82,12 @@ void PressIndex::Refresh(const ShapeMap& shapes) {
             continue;
         }
         View& view = ViewOf(shape->GetViewId());
-        const auto place =
-            std::lower_bound(view.shapes.begin(), view.shapes.end(), id,
-                             [](const ShapePtr& other, ShapeID sought) { return other->GetShapeId() < sought; });
+        const auto place = PlaceOf(id, view.shapes);
         if (place != view.shapes.end() && *place == shape) {
-            RefreshShape(view, static_cast<size_t>(place - view.shapes.begin()));
+            const auto at = static_cast<size_t>(place - view.shapes.begin());
+            const Claim claim = ClaimOf(*shape);
+            view.bounds.Set(at, claim);
+            NoteFlags(view, at, claim);
         }
     }
 }
@@ -97,7 +96,7 @@ void PressIndex::RebuildOrStayChanged(const ShapeMap& shapes) {
     try {
         Rebuild(shapes);
     } catch (...) {
-        const Guard guard(staleMutex);
+        const std::lock_guard guard(staleMutex);
         shapesChanged = true;
         throw;
     }
@@ -121,12 +120,6 @@ void PressIndex::Rebuild(const ShapeMap& shapes) {
             NoteFlags(view, place, claims[place]);
         }
     }
-}
-
-void PressIndex::RefreshShape(View& view, size_t place) {
-    const Claim claim = ClaimOf(*view.shapes[place]);
-    view.bounds.Set(place, claim);
-    NoteFlags(view, place, claim);
 }
 
 /// The mark goes first: a change while the claim is read is then reported anew.

@@ -35,7 +35,6 @@ class PressIndex {
     void Rebuild(const ShapeMap& shapes);
     void RebuildOrStayChanged(const ShapeMap& shapes);
     View& ViewOf(ViewID id);
-    static void RefreshShape(View& view, size_t place);
     static Claim ClaimOf(CVideoAnalyseShape& shape);
     static void NoteFlags(View& view, size_t place, const Claim& claim);
     static std::vector<uint32_t> FindPlaces(const View& view, const PointF& press);

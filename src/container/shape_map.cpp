@@ -3,14 +3,13 @@
 #include <algorithm>
 
 namespace rulecanvas {
-namespace {
-
-using Guard = std::lock_guard<std::mutex>;
 
 ShapeVector::const_iterator PlaceOf(ShapeID id, const ShapeVector& shapes) {
     return std::lower_bound(shapes.begin(), shapes.end(), id,
                             [](const ShapePtr& shape, ShapeID sought) { return shape->GetShapeId() < sought; });
 }
+
+namespace {
 
 bool IsAt(ShapeVector::const_iterator place, ShapeID id, const ShapeVector& shapes) {
     return place != shapes.end() && (*place)->GetShapeId() == id;
@@ -30,7 +29,7 @@ void EraseFrom(ShapeVector& shapes, ShapeID id) {
 } // namespace
 
 void ShapeMap::Insert(const ShapePtr& shape) {
-    const Guard guard(mutex);
+    const std::lock_guard guard(mutex);
     InsertInto(shapes.Change(), shape);
     if (shape->IsComposite()) {
         InsertInto(composites.Change(), shape);
@@ -38,30 +37,30 @@ void ShapeMap::Insert(const ShapePtr& shape) {
 }
 
 void ShapeMap::Erase(ShapeID id) {
-    const Guard guard(mutex);
+    const std::lock_guard guard(mutex);
     EraseFrom(shapes.Change(), id);
     EraseFrom(composites.Change(), id);
 }
 
 ShapeSnapshot ShapeMap::TakeAll() {
-    const Guard guard(mutex);
+    const std::lock_guard guard(mutex);
     composites = {};
     return ShapeSnapshot(std::exchange(shapes, {}).Take());
 }
 
 ShapePtr ShapeMap::Find(ShapeID id) const {
-    const Guard guard(mutex);
+    const std::lock_guard guard(mutex);
     const auto place = PlaceOf(id, shapes.Peek());
     return IsAt(place, id, shapes.Peek()) ? *place : nullptr;
 }
 
 ShapeSnapshot ShapeMap::InOrder() const {
-    const Guard guard(mutex);
+    const std::lock_guard guard(mutex);
     return ShapeSnapshot(shapes.Take());
 }
 
 ShapeSnapshot ShapeMap::Composites() const {
-    const Guard guard(mutex);
+    const std::lock_guard guard(mutex);
     return ShapeSnapshot(composites.Take());
 }
 

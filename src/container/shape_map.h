@@ -10,6 +10,9 @@ namespace rulecanvas {
 
 using ShapeVector = std::vector<ShapePtr>;
 
+/// Where the shape stands, or would stand, among shapes in ascending order of ShapeID.
+ShapeVector::const_iterator PlaceOf(ShapeID id, const ShapeVector& shapes);
+
 /// Shapes as they were at one moment. Later changes of the map leave it alone, and it keeps them in memory.
 class ShapeSnapshot {
   public:

@@ -47,12 +47,8 @@ bool NearSegment(const PointF& a, const PointF& b, const PointF& p) {
 }
 
 bool OnPath(const Points& path, const PointF& p) {
-    for (size_t i = 1; i < path.size(); ++i) {
-        if (NearSegment(path[i - 1], path[i], p)) {
-            return true;
-        }
-    }
-    return false;
+    const auto isNear = [&](const PointF& from, const PointF& to) { return NearSegment(from, to, p); };
+    return std::adjacent_find(path.begin(), path.end(), isNear) != path.end();
 }
 
 bool OnRing(const Points& ring, const PointF& p) {
@@ -62,10 +58,10 @@ bool OnRing(const Points& ring, const PointF& p) {
     return VertexIndex(ring, p) >= 0 || OnPath(ring, p) || NearSegment(ring.back(), ring.front(), p);
 }
 
-int SideOfLine(const PointF& a, const PointF& b, const PointF& p) {
+double ExactSide(const PointF& a, const PointF& b, const PointF& p) {
     const double dx = static_cast<double>(b.x) - a.x;
     const double dy = static_cast<double>(b.y) - a.y;
-    return TruncateToInt(dx * (static_cast<double>(p.y) - a.y) - (static_cast<double>(p.x) - a.x) * dy);
+    return dx * (static_cast<double>(p.y) - a.y) - (static_cast<double>(p.x) - a.x) * dy;
 }
 
 bool InPolygon(const Points& ring, const PointF& p) {

@@ -21,7 +21,11 @@ bool OnPath(const Points& path, const PointF& p);
 bool OnRing(const Points& ring, const PointF& p);
 
 /// Positive, zero or negative: the side of the line from `a` to `b` on which `p` lies.
-int SideOfLine(const PointF& a, const PointF& b, const PointF& p);
+double ExactSide(const PointF& a, const PointF& b, const PointF& p);
+/// The same rounded, as hits are judged: what lies less than a unit off the line is on it.
+inline int SideOfLine(const PointF& a, const PointF& b, const PointF& p) {
+    return TruncateToInt(ExactSide(a, b, p));
+}
 
 /// Non-zero winding number over the closed ring.
 bool InPolygon(const Points& ring, const PointF& p);

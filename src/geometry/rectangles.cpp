@@ -32,32 +32,20 @@ bool InClientArea(const ClientRect& rect, const PointF& p) {
     return InRectangle(ClientRect{0, 0, size.width, size.height}, p);
 }
 
-SpannedRectangle SpanRectangle(const PointF& first, const PointF& second, const ClientRect& clip) {
+ClientRect SpanRectangle(const PointF& first, const PointF& second, const ClientRect& clip) {
     const bool above = first.y <= second.y;
     const bool leftOf = first.x <= second.x;
-    SpannedRectangle spanned{};
-    if (above) {
-        spanned.firstPoint = leftOf ? Corner::TopLeft : Corner::TopRight;
-    } else {
-        spanned.firstPoint = leftOf ? Corner::BottomLeft : Corner::BottomRight;
-    }
-    const PointF& left = leftOf ? first : second;
-    const PointF& right = leftOf ? second : first;
-    const PointF& top = above ? first : second;
-    const PointF& bottom = above ? second : first;
-    spanned.rect.left = std::max(TruncateToInt(left.x), 0);
-    spanned.rect.top = std::max(TruncateToInt(top.y), 0);
-    spanned.rect.right = std::min(TruncateToInt(right.x), static_cast<int>(clip.right));
-    spanned.rect.bottom = std::min(TruncateToInt(bottom.y), static_cast<int>(clip.bottom));
-    return spanned;
+    ClientRect rect{};
+    rect.left = std::max(TruncateToInt((leftOf ? first : second).x), 0);
+    rect.top = std::max(TruncateToInt((above ? first : second).y), 0);
+    rect.right = std::min(TruncateToInt((leftOf ? second : first).x), static_cast<int>(clip.right));
+    rect.bottom = std::min(TruncateToInt((above ? second : first).y), static_cast<int>(clip.bottom));
+    return rect;
 }
 
 PointF ClampRelative(const PointF& anchor, const PointF& p, const ClientRect& clip) {
-    const SpannedRectangle spanned = SpanRectangle(anchor, p, clip);
-    const bool anchorLeft = spanned.firstPoint == Corner::TopLeft || spanned.firstPoint == Corner::BottomLeft;
-    const bool anchorAbove = spanned.firstPoint == Corner::TopLeft || spanned.firstPoint == Corner::TopRight;
-    return MakePoint(anchorLeft ? spanned.rect.right : spanned.rect.left,
-                     anchorAbove ? spanned.rect.bottom : spanned.rect.top);
+    const ClientRect rect = SpanRectangle(anchor, p, clip);
+    return MakePoint(anchor.x <= p.x ? rect.right : rect.left, anchor.y <= p.y ? rect.bottom : rect.top);
 }
 
 void SetCorners(Points& corners, const ClientRect& rect) {

@@ -15,17 +15,9 @@ bool InRectangle(const ClientRect& rect, const PointF& p);
 /// In (0, 0) to the width and height of the client rectangle, wherever that lies; the borders included.
 bool InClientArea(const ClientRect& rect, const PointF& p);
 
-/// Where the first of two points lies in the rectangle they span.
-enum class Corner { TopLeft = 0, TopRight = 1, BottomRight = 2, BottomLeft = 3 };
-
-struct SpannedRectangle {
-    ClientRect rect;
-    Corner firstPoint;
-};
-
 /// The rectangle of two points in whole pixels, clamped to zero at the left and top (not to the clip's own left and
 /// top: every view starts at its origin) and to the clip at the right and bottom.
-SpannedRectangle SpanRectangle(const PointF& first, const PointF& second, const ClientRect& clip);
+ClientRect SpanRectangle(const PointF& first, const PointF& second, const ClientRect& clip);
 
 /// `p` in whole pixels, kept inside the view as seen from `anchor`.
 PointF ClampRelative(const PointF& anchor, const PointF& p, const ClientRect& clip);

@@ -7,12 +7,6 @@
 namespace rulecanvas {
 namespace {
 
-/// Positive, zero or negative like SideOfLine, but without rounding: a near miss must not count as a touch.
-double ExactSide(const PointF& a, const PointF& b, const PointF& p) {
-    return (static_cast<double>(b.x) - a.x) * (static_cast<double>(p.y) - a.y) -
-           (static_cast<double>(p.x) - a.x) * (static_cast<double>(b.y) - a.y);
-}
-
 /// Whether `p`, known to be on the line, lies between the ends of the segment.
 bool Between(const PointF& a, const PointF& b, const PointF& p) {
     return std::min(a.x, b.x) <= p.x && p.x <= std::max(a.x, b.x) && std::min(a.y, b.y) <= p.y &&

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <mutex>
 
 namespace rulecanvas::platform {
 
@@ -12,25 +13,18 @@ class ContainerMutex {
     ContainerMutex(const ContainerMutex&) = delete;
     ContainerMutex& operator=(const ContainerMutex&) = delete;
 
-    /// When the system gave no mutex, both return at once and callers go on without one.
-    void Lock();
-    void Unlock();
+    // In lower case for the standard's guards. When the system gave no mutex, both return at once and callers go on
+    // without one.
+
+    void lock();
+    void unlock();
 
   private:
     /// Room for what the system's own lock is made of.
     alignas(void*) unsigned char native[6 * sizeof(void*)];
 };
 
-class LockGuard {
-  public:
-    explicit LockGuard(ContainerMutex& guarded) : mutex(guarded) { mutex.Lock(); }
-    ~LockGuard() { mutex.Unlock(); }
-    LockGuard(const LockGuard&) = delete;
-    LockGuard& operator=(const LockGuard&) = delete;
-
-  private:
-    ContainerMutex& mutex;
-};
+using LockGuard = std::lock_guard<ContainerMutex>;
 
 void Pause(int milliseconds);
 
@@ -47,3 +41,7 @@ void WriteTrace(const char* line);
 uint32_t IssueIdentity(const void* object);
 
 } // namespace rulecanvas::platform
+
+namespace rulecanvas {
+using platform::LockGuard;
+}

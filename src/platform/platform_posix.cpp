@@ -27,11 +27,11 @@ ContainerMutex::~ContainerMutex() {
     MutexIn(native).~recursive_mutex();
 }
 
-void ContainerMutex::Lock() {
+void ContainerMutex::lock() {
     MutexIn(native).lock();
 }
 
-void ContainerMutex::Unlock() {
+void ContainerMutex::unlock() {
     MutexIn(native).unlock();
 }
 

@@ -25,13 +25,13 @@ ContainerMutex::~ContainerMutex() {
     }
 }
 
-void ContainerMutex::Lock() {
+void ContainerMutex::lock() {
     if (HandleIn(native) != nullptr) {
         WaitForSingleObject(HandleIn(native), INFINITE);
     }
 }
 
-void ContainerMutex::Unlock() {
+void ContainerMutex::unlock() {
     if (HandleIn(native) != nullptr) {
         ReleaseMutex(HandleIn(native));
     }

@@ -6,7 +6,6 @@
 namespace rulecanvas {
 namespace {
 
-constexpr float Endless = std::numeric_limits<float>::infinity();
 /// Of a coordinate: many times what rounding can lose of it.
 constexpr float Rounding = 1e-6F;
 
@@ -15,14 +14,6 @@ float Widened(float coordinate, float reach) {
 }
 
 } // namespace
-
-Claim Claim::Nowhere() {
-    return Claim{Endless, Endless, -Endless, -Endless, false};
-}
-
-Claim Claim::Everywhere() {
-    return Claim{-Endless, -Endless, Endless, Endless, false};
-}
 
 Claim Claim::Around(const Points& points, float reach, bool answersOutside) {
     Claim claim = Nowhere();

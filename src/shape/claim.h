@@ -15,10 +15,17 @@ struct Claim {
     /// Beside these bounds the shape answers a left press, as one that lies outside.
     bool answersOutside = false;
 
-    static Claim Nowhere();
-    static Claim Everywhere();
+    static Claim Nowhere() { return Claim{Endless, Endless, -Endless, -Endless, false}; }
+    static Claim Everywhere() { return Claim{-Endless, -Endless, Endless, Endless, false}; }
     /// The bounds of the points and `reach` pixels more; everywhere when a point is no number.
     static Claim Around(const Points& points, float reach, bool answersOutside);
+
+    bool Holds(const PointF& point) const {
+        return left <= point.x && point.x <= right && top <= point.y && point.y <= bottom;
+    }
+
+  private:
+    static constexpr float Endless = std::numeric_limits<float>::infinity();
 };
 
 } // namespace rulecanvas

@@ -32,10 +32,6 @@ class Delegate<Result(Arguments...)> {
     /// The answer of a delegate that judges; an empty one accepts.
     bool Accepts(Arguments... arguments) const { return !*this || (*this)(arguments...); }
 
-    friend bool operator==(const Delegate& a, const Delegate& b) {
-        return a.target == b.target && a.method == b.method;
-    }
-
   private:
     template <auto Member, class Target>
     static Result RULECANVAS_THISCALL Call(void* object, Arguments... arguments) {

@@ -5,20 +5,18 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
-namespace {
-
-constexpr int PathMaximum = 20;
-
-} // namespace
-
 Refused CGestureShape::SetVideoAnalyseShapeData(const Configuration& configuration) {
     bool isStyled = false;
     try {
         TakeStyle(configuration.styleOrMode);
         isStyled = true;
-        return Configure(configuration);
+        BeginConfiguration(configuration.shapeName);
+        ReadWord(configuration.styleOrMode);
+        if (!IsEmpty(configuration.shapeData)) {
+            return LoadText(configuration);
+        }
+        RegisterDraw();
+        return std::nullopt;
     } catch (const Json::Exception& inconvertible) {
         return Refusal{"values of the documented types",
                        std::string("one that cannot be converted (") + inconvertible.what() + ")",
@@ -30,18 +28,8 @@ void CGestureShape::TakeStyle(const char* option) {
     if (TakesStyle()) {
         LockGuard guard(lock);
         ChangeStyle([&](ShapeStyle& changed) { ReadStyle(option, changed); });
-        maxPtNum = style->xArrowLine ? PathMaximum : maxPtNum;
+        maxPtNum = style->xArrowLine ? LongestPath : maxPtNum;
     }
-}
-
-Refused CGestureShape::Configure(const Configuration& configuration) {
-    BeginConfiguration(configuration.shapeName);
-    ReadWord(configuration.styleOrMode);
-    if (!IsEmpty(configuration.shapeData)) {
-        return LoadText(configuration);
-    }
-    RegisterDraw();
-    return std::nullopt;
 }
 
 /// The selection is told before the name is known: a host that waits for it hears of a shape that may still be refused.
@@ -87,7 +75,7 @@ bool CGestureShape::GetVideoAnalyseShapeConfigData(char* buffer, int size) {
     Json::Value root;
     {
         LockGuard guard(lock);
-        Json::Value geometry = WriteGeometry(figure.points, figure.fitted);
+        Json::Value geometry = WriteGeometry();
         if (geometry.isNull()) {
             return false;
         }

@@ -5,8 +5,6 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
 void CGestureShape::Enter(ShapeState next) {
     state = next;
     ++life;
@@ -50,7 +48,9 @@ void CGestureShape::SpeakOne(Effect effect, const Committed& committed, const Co
     case Effect::TellState:
         return TellState(committed.previous, committed.outcome.state.value_or(Deleted));
     case Effect::TellCreation:
-        return TellCreation(cause);
+        if (OwnersHooks() != nullptr && cause != nullptr) {
+            OwnersHooks()->CreationFinishedHook(*cause);
+        }
     }
 }
 
@@ -102,12 +102,6 @@ void CGestureShape::TellState(int previousState, int newState) {
     }
 }
 
-void CGestureShape::TellCreation(const ContainerMouseEvent* cause) {
-    if (OwnersHooks() != nullptr && cause != nullptr) {
-        OwnersHooks()->CreationFinishedHook(*cause);
-    }
-}
-
 void CGestureShape::RequestCapture(bool take) {
     if (IShapeContainer* owner = GetContainer()) {
         owner->RequestCapture(take);
@@ -138,7 +132,9 @@ void CGestureShape::Dispose() {
         ++life; // whatever step is still speaking is over
         hasMouse = listening || (state == Drawing && !figure.points.empty());
     }
-    UnregisterDraw();
+    if (IShapeContainer* owner = GetContainer()) {
+        owner->unRegisterDrawEvent(*this);
+    }
     StopListening();
     if (hasMouse) {
         RequestCapture(false);

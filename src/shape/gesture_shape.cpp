@@ -4,8 +4,6 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
 CVideoAnalyseShape* CGestureShape::HitTestLButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
     LockGuard guard(lock);
     if (state == Complete) {
@@ -21,7 +19,7 @@ void CGestureShape::HandleLButtonDownEvent(const PointerEvent& event, int hitLev
     Take(&event.record, [&]() -> Outcome {
         switch (state) {
         case Waiting:
-            return StartDrawing(event);
+            return MayStart(event) ? StartDrawing(event) : Outcome{};
         case Drawing:
             return ContinueDrawing(event);
         case Complete:
@@ -37,58 +35,36 @@ void CGestureShape::HandleLButtonDownEvent(const PointerEvent& event, int hitLev
 }
 
 void CGestureShape::OnMouseListened(MouseListenerKind kind, const PointerEvent& event) {
-    if (event.record.viewId != GetViewId()) {
+    using Step = Outcome (CGestureShape::*)(const PointerEvent&);
+    struct Steps {
+        Step onMove, onRelease;
+    };
+    static constexpr Steps stepsIn[] = {
+        {nullptr, nullptr}, // Deleted
+        {&CGestureShape::ResumeDrawing, &CGestureShape::FinishWaiting},
+        {&CGestureShape::DrawTo, &CGestureShape::EndDrawing},
+        {nullptr, nullptr}, // Complete
+        {&CGestureShape::MoveTo, &CGestureShape::EndMove},
+        {&CGestureShape::AdjustTo, &CGestureShape::EndAdjust},
+    };
+    const bool isRelease = kind == MouseListenerKind::ButtonUp;
+    if (event.record.viewId != GetViewId() || (!isRelease && !event.HasView())) {
         return;
     }
-    if (kind == MouseListenerKind::ButtonUp) {
-        OnButtonUp(event);
-    } else if (event.HasView()) {
-        OnMouseMove(event);
+    Take(&event.record, [&]() -> Outcome {
+        const Steps& steps = stepsIn[state];
+        const Step step = isRelease ? steps.onRelease : steps.onMove;
+        return step == nullptr ? Outcome{} : (this->*step)(event);
+    });
+}
+
+Outcome CGestureShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
+    figure.grabbedIndex = VertexIndex(figure.points, press.position);
+    if (figure.grabbedIndex >= 0) {
+        figure.anchorPoint = figure.points[static_cast<size_t>(figure.grabbedIndex)];
+        return Grab(Adjusting);
     }
-}
-
-void CGestureShape::OnMouseMove(const PointerEvent& event) {
-    Take(&event.record, [&]() -> Outcome {
-        switch (state) {
-        case Waiting:
-            return ResumeDrawing(event);
-        case Drawing:
-            return DrawTo(event);
-        case Moving:
-            return MoveTo(event);
-        case Adjusting:
-            return AdjustTo(event);
-        default:
-            return {};
-        }
-    });
-}
-
-void CGestureShape::OnButtonUp(const PointerEvent& event) {
-    Take(&event.record, [&]() -> Outcome {
-        switch (state) {
-        case Waiting:
-            return FinishWaiting(event);
-        case Drawing:
-            return EndDrawing(event);
-        case Moving:
-            return EndMove(event);
-        case Adjusting:
-            return EndAdjust(event);
-        default:
-            return {};
-        }
-    });
-}
-
-Outcome CGestureShape::MoveTo(const PointerEvent& position) {
-    FollowMouse(position.ClampedFrom(figure.anchorPoint), position.view);
-    return {};
-}
-
-Outcome CGestureShape::AdjustTo(const PointerEvent& position) {
-    DragPoint(figure.grabbedIndex, position.ClampedFrom(figure.anchorPoint), position.view);
-    return {};
+    return InPolygon(figure.points, press.position) ? GrabWhole(press.position) : Outcome{};
 }
 
 Outcome CGestureShape::Grab(ShapeState gesture) {
@@ -97,30 +73,11 @@ Outcome CGestureShape::Grab(ShapeState gesture) {
     return {gesture, effects::Grab};
 }
 
-Outcome CGestureShape::GrabWhole(const PointF& press) {
-    figure.anchorPoint = press;
-    return Grab(Moving);
-}
-
-Outcome CGestureShape::StartOver() {
-    Forget();
-    return {Waiting, effects::LetGo};
-}
-
 void CGestureShape::ClearShape() {
     Take(nullptr, [&]() -> Outcome {
         Forget();
         return {std::nullopt, effects::LetGo};
     });
-}
-
-bool CGestureShape::RestartDrawing() {
-    Take(nullptr, [&] { return StartOver(); });
-    return true;
-}
-
-void CGestureShape::FinishByRightButton(int hitLevel) {
-    Take(nullptr, [&] { return hitLevel == Busy && state == Drawing ? Finish() : Outcome{}; });
 }
 
 void CGestureShape::DeleteByRightButton(int hitLevel) {

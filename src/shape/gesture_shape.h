@@ -25,7 +25,11 @@ class CGestureShape : public CVideoAnalyseShape {
     Refused SetVideoAnalyseShapeData(const Configuration& configuration) override;
     bool GetVideoAnalyseShapeConfigData(char* buffer, int size) override;
     void ClearShape() override;
-    bool RestartDrawing() override;
+    bool RestartDrawing() override {
+        Take(nullptr, [&] { return StartOver(); });
+        return true;
+    }
+
     /// All points, or none when one of them would leave the view.
     bool MoveShape(float dx, float dy) override;
     /// The points with one of them dragged to `current`.
@@ -38,7 +42,8 @@ class CGestureShape : public CVideoAnalyseShape {
   protected:
     // The steps of a gesture, called with the lock held. They change the figure and speak to no one.
 
-    /// The first press.
+    /// Whether the first press may be there.
+    virtual bool MayStart(const PointerEvent& press) const { return AcceptsPoint(press.position, press.view); }
     virtual Outcome StartDrawing(const PointerEvent& press) = 0;
     /// A further press.
     virtual Outcome ContinueDrawing(const PointerEvent& /*press*/) { return {}; }
@@ -47,13 +52,21 @@ class CGestureShape : public CVideoAnalyseShape {
     /// A move or release that a shape which waits to be drawn still listens to.
     virtual Outcome ResumeDrawing(const PointerEvent& /*position*/) { return {}; }
     virtual Outcome FinishWaiting(const PointerEvent& /*release*/) { return {}; }
-    /// A press that grabs the finished figure, or not.
-    virtual Outcome StartEditing(const PointerEvent& press, int hitLevel) = 0;
-    virtual Outcome MoveTo(const PointerEvent& position);
+    /// A press that grabs a vertex of the finished figure, or the whole by its inside, or nothing.
+    virtual Outcome StartEditing(const PointerEvent& press, int hitLevel);
+    virtual Outcome MoveTo(const PointerEvent& position) {
+        FollowMouse(AimOf(position), position.view);
+        return {};
+    }
     virtual Outcome EndMove(const PointerEvent& /*release*/) { return Finish(); }
     /// Drags the grabbed point.
-    virtual Outcome AdjustTo(const PointerEvent& position);
-    virtual Outcome EndAdjust(const PointerEvent& /*release*/) { return Finish(); }
+    virtual Outcome AdjustTo(const PointerEvent& position) {
+        DragPoint(figure.grabbedIndex, AimOf(position), position.view);
+        return {};
+    }
+    virtual Outcome EndAdjust(const PointerEvent& release) { return EndMove(release); }
+    /// Where a drag of the finished figure goes.
+    virtual PointF AimOf(const PointerEvent& position) const { return position.ClampedFrom(figure.anchorPoint); }
 
     // What the steps lead to.
 
@@ -61,10 +74,17 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Selects the finished shape and shows its handles.
     Outcome Grab(ShapeState gesture);
     /// The same for a press that moves the whole figure.
-    Outcome GrabWhole(const PointF& press);
+    Outcome GrabWhole(const PointF& press) {
+        figure.anchorPoint = press;
+        return Grab(Moving);
+    }
+
     Outcome Finish() const { return {Complete, effects::Finish}; }
     /// The figure goes, and the shape waits to be drawn anew.
-    Outcome StartOver();
+    Outcome StartOver() {
+        Forget();
+        return {Waiting, effects::LetGo};
+    }
 
     /// Moves the whole figure after the mouse and takes the mouse over as the new anchor; a refused step changes
     /// nothing.
@@ -85,7 +105,7 @@ class CGestureShape : public CVideoAnalyseShape {
     /// Reads the figure and enters the state that it has.
     virtual Refused Load(Loading& loading) = 0;
     /// Null when there is nothing to write.
-    virtual Json::Value WriteGeometry(const Points& points, const ViewSize& view) const = 0;
+    virtual Json::Value WriteGeometry() const = 0;
     virtual CopyRule RuleOfCopying() const = 0;
     /// Whether what is written depends on the view's size.
     virtual bool WritesPlaces() const { return true; }
@@ -135,7 +155,9 @@ class CGestureShape : public CVideoAnalyseShape {
     bool IsListening() const { return listening; }
 
     /// A right press while the shape is drawn finishes it.
-    void FinishByRightButton(int hitLevel);
+    void FinishByRightButton(int hitLevel) {
+        Take(nullptr, [&] { return hitLevel == Busy && state == Drawing ? Finish() : Outcome{}; });
+    }
     /// A right press on a shape that allows it takes the shape to state 0, clears it and reports that.
     void DeleteByRightButton(int hitLevel);
 
@@ -154,17 +176,13 @@ class CGestureShape : public CVideoAnalyseShape {
     void GiveUp(const Committed& committed) noexcept;
     bool IsStill(const Committed& committed) const { return life == committed.life && !IsRetired(); }
     void TellSelection();
-    void TellCreation(const ContainerMouseEvent* cause);
     void RequestCapture(bool take);
     void Listen();
     void StopListening();
 
     bool CopyFitted(PaintPass& pass);
-    void OnMouseMove(const PointerEvent& event);
-    void OnButtonUp(const PointerEvent& event);
 
     void TakeStyle(const char* option);
-    Refused Configure(const Configuration& configuration);
     void BeginConfiguration(const char* shapeName);
     Refused LoadText(const Configuration& configuration);
 

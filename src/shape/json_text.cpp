@@ -22,14 +22,6 @@ std::unique_ptr<Json::CharReader> MakeReader() {
     return std::unique_ptr<Json::CharReader>(builder.newCharReader());
 }
 
-/// One reader for all, one thread at a time: reading a number switches the locale of the whole process for a moment.
-bool Read(const char* text, Json::Value& root, std::string* why) {
-    static platform::ContainerMutex mutex;
-    static const std::unique_ptr<Json::CharReader> reader = MakeReader();
-    platform::LockGuard guard(mutex);
-    return reader->parse(text, text + std::strlen(text), &root, why);
-}
-
 std::unique_ptr<Json::StreamWriter> MakeWriter() {
     Json::StreamWriterBuilder builder;
     builder["indentation"] = "";
@@ -39,10 +31,14 @@ std::unique_ptr<Json::StreamWriter> MakeWriter() {
 
 } // namespace
 
+/// One reader for all, one thread at a time: reading a number switches the locale of the whole process for a moment.
 bool ParseJson(const char* text, Json::Value& root, std::string* why) {
+    static platform::ContainerMutex mutex;
+    static const std::unique_ptr<Json::CharReader> reader = MakeReader();
     Json::Value parsed;
     try {
-        if (!Read(text, parsed, why)) {
+        LockGuard guard(mutex);
+        if (!reader->parse(text, text + std::strlen(text), &parsed, why)) {
             return false;
         }
     } catch (const Json::Exception& nestedTooDeeply) {
@@ -61,22 +57,10 @@ std::string WriteJson(const Json::Value& value) {
     static const std::unique_ptr<Json::StreamWriter> writer = MakeWriter();
     std::ostringstream out;
     out.exceptions(std::ios::badbit); // a text that memory did not suffice for must not pass for a whole one
-    platform::LockGuard guard(mutex);
+    LockGuard guard(mutex);
     writer->write(value, &out);
     out << '\n';
     return out.str();
-}
-
-const Json::Value& MemberOf(const Json::Value& root, const std::string& key) {
-    return root.isObject() ? root[key] : Json::Value::nullSingleton();
-}
-
-bool IsArrayOf(const Json::Value& value, unsigned count) {
-    return value.isArray() && value.size() == count;
-}
-
-bool IsPlainInteger(const Json::Value& value) {
-    return value.type() == Json::intValue && value.isInt();
 }
 
 bool CopyText(const std::string& text, CopyRule rule, char* buffer, int size) {

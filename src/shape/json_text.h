@@ -14,12 +14,18 @@ bool ParseJson(const char* text, Json::Value& root, std::string* why = nullptr);
 std::string WriteJson(const Json::Value& value);
 
 /// The member, or null when the root is not an object or has none of that name.
-const Json::Value& MemberOf(const Json::Value& root, const std::string& key);
+inline const Json::Value& MemberOf(const Json::Value& root, const std::string& key) {
+    return root.isObject() ? root[key] : Json::Value::nullSingleton();
+}
 
-bool IsArrayOf(const Json::Value& value, unsigned count);
+inline bool IsArrayOf(const Json::Value& value, unsigned count) {
+    return value.isArray() && value.size() == count;
+}
 
 /// Numbers with a fraction or an exponent are not integers here, even when their value is whole.
-bool IsPlainInteger(const Json::Value& value);
+inline bool IsPlainInteger(const Json::Value& value) {
+    return value.type() == Json::intValue && value.isInt();
+}
 
 /// How a text goes into a buffer of the host. Each only when all of it fits; else the buffer is left untouched.
 enum class CopyRule {

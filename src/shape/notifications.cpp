@@ -27,4 +27,13 @@ std::string StateEvent(const CVideoAnalyseShape& shape, int previousState, int n
     return WriteJson(root);
 }
 
+Json::Value StateOf(const CVideoAnalyseShape& shape) {
+    Json::Value state;
+    state["ShapeID"] = static_cast<Json::Int>(shape.GetShapeId());
+    state["bSelShape"] = shape.IsSelected();
+    state["ShapeName"] = shape.GetName();
+    state["ShapeType"] = shape.GetShapeType();
+    return state;
+}
+
 } // namespace rulecanvas

@@ -4,20 +4,11 @@
 
 namespace rulecanvas {
 
-using platform::LockGuard;
-
 CVideoAnalyseShape::CVideoAnalyseShape() : style(Shared(ShapeStyle())), shapeId(platform::IssueIdentity(this)) {}
-
-CVideoAnalyseShape::~CVideoAnalyseShape() = default;
 
 void CVideoAnalyseShape::GetShapePoints(Points& out) const {
     LockGuard guard(lock);
     out = figure.points;
-}
-
-bool CVideoAnalyseShape::SelectShape(bool select, int /*mode*/) {
-    SetSelectedState(select);
-    return true;
 }
 
 void CVideoAnalyseShape::SetSelectedState(bool select) {
@@ -41,8 +32,13 @@ bool CVideoAnalyseShape::GetPressPoint(PointF& out) const {
     return true;
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): the shapes that use the list take it over
-void CVideoAnalyseShape::SetShapePoints(Points /*newPoints*/) {}
+void CVideoAnalyseShape::SetShapePoints(Points newPoints) {
+    LockGuard guard(lock);
+    if (TakesPoints(newPoints)) {
+        figure.points = std::move(newPoints);
+    }
+    MarkClaimStale();
+}
 
 void CVideoAnalyseShape::SetSubShapeShowName(ShapeID id, const char* text) {
     if (CVideoAnalyseShape* part = FindSubShape(id)) {
@@ -188,12 +184,6 @@ void CVideoAnalyseShape::RegisterDraw() {
     IShapeContainer* owner = container;
     if (owner != nullptr && drawTicket == 0) {
         owner->RegisterDrawEvent(shared_from_this());
-    }
-}
-
-void CVideoAnalyseShape::UnregisterDraw() {
-    if (IShapeContainer* owner = container) {
-        owner->unRegisterDrawEvent(*this);
     }
 }
 

@@ -28,7 +28,7 @@ using ListenerTicket = std::atomic<uint64_t>;
 class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShape> {
   public:
     CVideoAnalyseShape();
-    virtual ~CVideoAnalyseShape();
+    virtual ~CVideoAnalyseShape() = default;
     CVideoAnalyseShape(const CVideoAnalyseShape&) = delete;
     CVideoAnalyseShape& operator=(const CVideoAnalyseShape&) = delete;
 
@@ -52,7 +52,10 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     virtual bool GetVideoAnalyseShapeConfigData(char* buffer, int size) = 0;
     virtual void ClearShape() = 0;
     virtual uint32_t AddSubShape(uint32_t /*first*/, uint32_t /*second*/, uint32_t /*third*/) { return 0; }
-    virtual bool SelectShape(bool select, int mode);
+    virtual bool SelectShape(bool select, int /*mode*/) {
+        SetSelectedState(select);
+        return true;
+    }
     virtual void SetSelectedState(bool select);
     virtual void RemoveSubShape(ShapeID /*id*/) {}
     virtual CVideoAnalyseShape* FindSubShape(ShapeID /*id*/) { return nullptr; }
@@ -120,6 +123,8 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
   protected:
     /// What a shape undoes before it is freed.
     virtual void Dispose() = 0;
+    /// Whether an owner may set these points; asked with the lock held.
+    virtual bool TakesPoints(const Points& /*points*/) const { return false; }
 
     /// Asks the host.
     ClientRect ViewRect() const;
@@ -142,7 +147,6 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     const OwnerHooks* OwnersHooks() const { return hooks.get(); }
     void MarkClaimStale();
     void RegisterDraw();
-    void UnregisterDraw();
 
     // What a paint looks at stands together, first: with many figures, fetching it is most of the time.
 

@@ -13,22 +13,29 @@ class CShapeFactory {
   public:
     using Creator = ShapePtr (*)();
 
-    static CShapeFactory& GetInstance();
+    static CShapeFactory& GetInstance() {
+        static CShapeFactory factory;
+        return factory;
+    }
 
     /// False, with the earlier creator kept, when the name is taken.
-    bool Register(const std::string& typeName, Creator creator);
+    bool Register(const std::string& typeName, Creator creator) { return creators.emplace(typeName, creator).second; }
 
     /// Null for an unknown name. Names are compared byte for byte.
-    ShapePtr CreateShape(const std::string& typeName) const;
+    ShapePtr CreateShape(const std::string& typeName) const {
+        const auto found = creators.find(typeName);
+        return found == creators.end() ? nullptr : found->second();
+    }
 
   private:
     std::map<std::string, Creator> creators;
 };
 
-/// A creator for `CShapeFactory::Register`: a new `Shape` made with the given constructor arguments.
+/// Registers a type whose shapes are made with the given constructor arguments.
 template <class Shape, auto... Arguments>
-ShapePtr MakeShape() {
-    return std::make_shared<Shape>(Arguments...);
+bool Register(const char* typeName) {
+    return CShapeFactory::GetInstance().Register(typeName,
+                                                 []() -> ShapePtr { return std::make_shared<Shape>(Arguments...); });
 }
 
 } // namespace rulecanvas

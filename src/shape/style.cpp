@@ -78,26 +78,23 @@ void ReadColours(const Json::Value& root, ShapeStyle& style) {
     }
 }
 
-bool IsSame(const ColorF& a, const ColorF& b) {
-    return a.alpha == b.alpha && a.red == b.red && a.green == b.green && a.blue == b.blue;
+auto ValuesOf(const ColorF& colour) {
+    return std::tie(colour.alpha, colour.red, colour.green, colour.blue);
 }
 
-bool IsSame(const FontStyle& a, const FontStyle& b) {
-    return IsSame(a.fontColor, b.fontColor) && a.fontSize == b.fontSize && std::strcmp(a.fontFace, b.fontFace) == 0;
+/// All but the name of the font.
+auto ValuesOf(const ShapeStyle& style) {
+    return std::tuple_cat(ValuesOf(style.selColor), ValuesOf(style.unSelColor), ValuesOf(style.fillColor),
+                          ValuesOf(style.textStyle.fontColor),
+                          std::tie(style.textStyle.fontSize, style.lineThickness, style.unSelLineThickness,
+                                   style.penStyle, style.direction, style.hostDirection, style.mosaicSize,
+                                   style.mosaicEnable, style.canAdjust, style.canMove, style.xArrowLine, style.isFill));
 }
 
 } // namespace
 
 bool operator==(const ShapeStyle& a, const ShapeStyle& b) {
-    const auto numbers = [](const ShapeStyle& style) {
-        return std::tie(style.lineThickness, style.unSelLineThickness, style.penStyle, style.direction,
-                        style.hostDirection, style.mosaicSize);
-    };
-    const auto flags = [](const ShapeStyle& style) {
-        return std::tie(style.mosaicEnable, style.canAdjust, style.canMove, style.xArrowLine, style.isFill);
-    };
-    return IsSame(a.selColor, b.selColor) && IsSame(a.unSelColor, b.unSelColor) && IsSame(a.fillColor, b.fillColor) &&
-           IsSame(a.textStyle, b.textStyle) && numbers(a) == numbers(b) && flags(a) == flags(b);
+    return ValuesOf(a) == ValuesOf(b) && std::strcmp(a.textStyle.fontFace, b.textStyle.fontFace) == 0;
 }
 
 void ReadStyle(const char* text, ShapeStyle& style) {

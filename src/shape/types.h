@@ -14,6 +14,18 @@ enum ShapeState : int {
     Adjusting = 5,
 };
 
+/// Numbers of the state report; shapes of other kinds have 0.
+enum ShapeType : int {
+    FreeLineType = 1,
+    HorizontalLineType = 2,
+    VerticalLineType = 3,
+    BrokenLineType = 4,
+    RectangleType = 5,
+};
+
+/// How many points a path may have, unless the host sets another limit.
+constexpr int LongestPath = 20;
+
 /// How strongly a shape claims a press; the strongest claim wins.
 enum HitLevel : int {
     Miss = 0,
@@ -43,11 +55,8 @@ inline PointF PositionOf(const ContainerMouseEvent& event) {
 /// An event of the mouse with the client rectangle of its view, for which the host was asked once.
 struct PointerEvent {
     const ContainerMouseEvent& record;
-    PointF position;
     ClientRect view;
-
-    PointerEvent(const ContainerMouseEvent& event, const ClientRect& clientRect)
-        : record(event), position(PositionOf(event)), view(clientRect) {}
+    PointF position = PositionOf(record);
 
     /// False while the view has no size, as that of a minimised window: nothing could be placed in it.
     bool HasView() const { return SizeOf(view).Known(); }

@@ -12,9 +12,9 @@ ContainerMutex::~ContainerMutex() {
     static_cast<void>(native);
 }
 
-void ContainerMutex::Lock() {}
+void ContainerMutex::lock() {}
 
-void ContainerMutex::Unlock() {}
+void ContainerMutex::unlock() {}
 
 void Pause(int /*milliseconds*/) {}
 

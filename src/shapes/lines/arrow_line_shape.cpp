@@ -1,17 +1,60 @@
-#include "shapes/lines/arrow_line_shape.h"
-
 #include "shape/drawing.h"
 #include "shape/shape_factory.h"
+#include "shapes/lines/path_line_shape.h"
 
 #include <utility>
 
 namespace rulecanvas {
-
-using platform::LockGuard;
-
 namespace {
 
-const bool registered = CShapeFactory::GetInstance().Register("ArrowLineShape", &MakeShape<CArrowLineShape>);
+/// A direction of travel: a line, or with "XArrowLine" a path of up to 20 points, with an arrow head where `direction`
+/// says.
+class CArrowLineShape final : public CPathLineShape {
+    /// Finishes only a path that whoever judges it accepts.
+    void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override {
+        bool accepted = false;
+        {
+            LockGuard guard(lock);
+            accepted = hitLevel == Busy && PassesValidation(figure.points, true);
+        }
+        if (accepted) {
+            CPathLineShape::HandleRButtonEvent(event, hitLevel);
+        }
+    }
+
+    /// Free in both directions, also for a horizon.
+    bool MovePoints(float dx, float dy, const ClientRect& view) override {
+        LearnViewSize(view); // as for a dragged point
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): other lines are bound to a horizon, an arrow is not
+        return ChangeChecked([&] { return CGestureShape::MovePoints(dx, dy, view); });
+    }
+
+    bool DragPoint(int index, const PointF& to, const ClientRect& view) override {
+        return ChangeChecked([&] { return CPathLineShape::DragPoint(index, to, view); });
+    }
+    bool FitToPaint(const PaintPass& pass) override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+
+    /// Makes a change of the path, and takes it back when an owner refuses what came of it.
+    template <class Change>
+    bool ChangeChecked(Change change) {
+        if (OwnersHooks() == nullptr) {
+            return change();
+        }
+        Points before = figure.points;
+        if (!change()) {
+            return false;
+        }
+        const bool accepted =
+            PassesValidation(figure.points, false) && OwnersHooks()->GeometryCheckHook.Accepts(figure.points);
+        if (!accepted) {
+            figure.points = std::move(before);
+        }
+        return accepted;
+    }
+};
+
+const bool registered = Register<CArrowLineShape>("ArrowLineShape");
 
 constexpr int HeadAtUpperEnd = 3;
 constexpr int HeadAtLowerEnd = 4;
@@ -40,44 +83,6 @@ void DrawHead(const ShapeLook& look, IContainerGraphics& surface) {
 }
 
 } // namespace
-
-void CArrowLineShape::HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) {
-    bool accepted = false;
-    {
-        LockGuard guard(lock);
-        accepted = hitLevel == Busy && PassesValidation(figure.points, true);
-    }
-    if (accepted) {
-        CPathLineShape::HandleRButtonEvent(event, hitLevel);
-    }
-}
-
-/// Makes a change of the path, and takes it back when an owner refuses what came of it.
-template <class Change>
-bool CArrowLineShape::ChangeChecked(Change change) {
-    if (OwnersHooks() == nullptr) {
-        return change();
-    }
-    Points before = figure.points;
-    if (!change()) {
-        return false;
-    }
-    if (!PassesValidation(figure.points, false) || !OwnersHooks()->GeometryCheckHook.Accepts(figure.points)) {
-        figure.points = std::move(before);
-        return false;
-    }
-    return true;
-}
-
-bool CArrowLineShape::MovePoints(float dx, float dy, const ClientRect& view) {
-    LearnViewSize(view); // as for a dragged point
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call): other lines are bound to a horizon by their name, an arrow is not
-    return ChangeChecked([&] { return CGestureShape::MovePoints(dx, dy, view); });
-}
-
-bool CArrowLineShape::DragPoint(int index, const PointF& to, const ClientRect& view) {
-    return ChangeChecked([&] { return CPathLineShape::DragPoint(index, to, view); });
-}
 
 bool CArrowLineShape::FitToPaint(const PaintPass& pass) {
     figure.FitTo(pass.viewZero);

@@ -1,12 +1,20 @@
-#include "shapes/lines/dash_line_shape.h"
-
 #include "shape/drawing.h"
 #include "shape/shape_factory.h"
+#include "shapes/lines/line_shape.h"
 
 namespace rulecanvas {
 namespace {
 
-const bool registered = CShapeFactory::GetInstance().Register("DashLineShape", &MakeShape<CDashLineShape>);
+/// A dashed line without direction mark, for auxiliary lines that must not be mistaken for rules.
+class CDashLineShape final : public CLineShape {
+  public:
+    CDashLineShape() : CLineShape(LineOrientation::Free) {}
+
+  private:
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+};
+
+const bool registered = Register<CDashLineShape>("DashLineShape");
 
 /// Always as thick as a selected line.
 void DrawDashes(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {

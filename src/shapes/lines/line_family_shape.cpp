@@ -1,20 +1,10 @@
 #include "shapes/lines/line_family_shape.h"
 
-#include "geometry/hit_tests.h"
-#include "shape/point_json.h"
-#include "shape/text.h"
-#include "shapes/lines/line_geometry.h"
-
 #include <algorithm>
 #include <array>
 
 namespace rulecanvas {
-
-using platform::LockGuard;
-
 namespace {
-
-constexpr int MinPointSpacing = 6;
 
 bool ReachesAcrossTheView(const std::string& name) {
     constexpr std::array<const char*, 5> names{"DetectLine", "ForLine", "MiddleLine", "StopLine", "BackLine"};
@@ -23,23 +13,7 @@ bool ReachesAcrossTheView(const std::string& name) {
 
 } // namespace
 
-int CLineFamilyShape::LevelAt(const PointF& press) {
-    return OnPath(figure.points, press) ? OnOutline : Outside;
-}
-
-void CLineFamilyShape::RemoveSubShape(ShapeID /*id*/) {
-    ClearShape();
-}
-
-void CLineFamilyShape::Forget() {
-    CGestureShape::Forget();
-    figure.lastPoint = PointF{};
-}
-
 Outcome CLineFamilyShape::StartDrawing(const PointerEvent& press) {
-    if (!AcceptsPoint(press.position, press.view)) {
-        return {};
-    }
     figure.points.assign(1, press.position);
     if (!PassesValidation(figure.points, false)) {
         figure.points.clear();
@@ -49,19 +23,15 @@ Outcome CLineFamilyShape::StartDrawing(const PointerEvent& press) {
     return Begin(Drawing);
 }
 
-Outcome CLineFamilyShape::DrawTo(const PointerEvent& position) {
-    if (!figure.points.empty()) {
-        figure.lastPoint = position.ClampedFrom(figure.points.front());
-    }
-    return {};
-}
-
 Outcome CLineFamilyShape::EndDrawing(const PointerEvent& event) {
     const Points& path = figure.points;
     if (path.empty() || path.size() >= MaximumPoints() || !event.HasView()) {
         return {};
     }
-    const PointF release = Released(event);
+    PointF release = event.ClampedFrom(path.front());
+    if (horizon || movedHLine) {
+        release.y = path.front().y;
+    }
     if (!IsWithinLimit(path.front(), release)) {
         return StartOver();
     }
@@ -75,31 +45,15 @@ Outcome CLineFamilyShape::EndDrawing(const PointerEvent& event) {
     return complete ? Finish() : Outcome{};
 }
 
-/// Where a release offers a point: in the view, and level for a horizon.
-PointF CLineFamilyShape::Released(const PointerEvent& release) const {
-    PointF point = release.ClampedFrom(figure.points.front());
-    if (horizon || movedHLine) {
-        point.y = figure.points.front().y;
-    }
-    return point;
-}
-
 /// Appends the point unless it may not be there or is too near to the last one.
 bool CLineFamilyShape::OfferPoint(const PointF& point, const ClientRect& view) {
+    constexpr int minimumSpacing = 6;
     Points& path = figure.points;
     const PointF next = path.size() == 1 ? Oriented(point, path.front()) : point;
-    if (!AcceptsPoint(next, view) || CloserThan(MinPointSpacing, path.back(), next)) {
+    if (!AcceptsPoint(next, view) || CloserThan(minimumSpacing, path.back(), next)) {
         return false;
     }
     path.push_back(next);
-    return true;
-}
-
-PointF CLineFamilyShape::Oriented(const PointF& point, const PointF& /*other*/) const {
-    return point;
-}
-
-bool CLineFamilyShape::IsWithinLimit(const PointF& /*first*/, const PointF& /*point*/) const {
     return true;
 }
 
@@ -122,21 +76,6 @@ Outcome CLineFamilyShape::MoveTo(const PointerEvent& position) {
     return {};
 }
 
-Outcome CLineFamilyShape::AdjustTo(const PointerEvent& position) {
-    AdjustEndpoint(position);
-    return {};
-}
-
-Outcome CLineFamilyShape::EndMove(const PointerEvent& release) {
-    return EndAdjust(release);
-}
-
-Outcome CLineFamilyShape::EndAdjust(const PointerEvent& release) {
-    AdjustEndpoint(release);
-    PassesValidation(figure.points, true); // an owner gets to see the final line; it stays whatever the answer
-    return Finish();
-}
-
 void CLineFamilyShape::AdjustEndpoint(const PointerEvent& position) {
     Points& path = figure.points;
     if (!style->canAdjust || movedHLine || !position.HasView() ||
@@ -146,23 +85,6 @@ void CLineFamilyShape::AdjustEndpoint(const PointerEvent& position) {
     if (horizon && path.size() >= LinePoints) {
         path[1].y = path[0].y;
     }
-}
-
-bool CLineFamilyShape::MovePoints(float dx, float dy, const ClientRect& view) {
-    return CGestureShape::MovePoints(horizon || movedHLine ? 0.0F : dx, dy, view);
-}
-
-void CLineFamilyShape::ReadWord(const char* option) {
-    horizon = horizon || IsWord(option, "Horizon") || name == "Horizon";
-    movedHLine = movedHLine || IsWord(option, "MovedHLine") || name == "MovedHLine";
-}
-
-void CLineFamilyShape::SetShapePoints(Points newPoints) {
-    if (newPoints.size() == LinePoints) {
-        LockGuard guard(lock);
-        figure.points = std::move(newPoints);
-    }
-    MarkClaimStale();
 }
 
 Refused CLineFamilyShape::Load(Loading& loading) {
@@ -180,10 +102,6 @@ Refused CLineFamilyShape::Load(Loading& loading) {
     }
     Enter(Complete);
     return std::nullopt;
-}
-
-Json::Value CLineFamilyShape::WriteGeometry(const Points& points, const ViewSize& view) const {
-    return points.size() < LinePoints ? Json::Value() : WritePoints(points, view);
 }
 
 } // namespace rulecanvas

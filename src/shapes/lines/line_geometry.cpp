@@ -4,6 +4,8 @@
 #include "geometry/hit_tests.h"
 #include "geometry/segments.h"
 
+#include <algorithm>
+
 namespace rulecanvas {
 
 Points ExtendedAcrossGrid(const Points& line) {
@@ -22,12 +24,8 @@ Points ExtendedAcrossGrid(const Points& line) {
 }
 
 bool CrossesPath(const PointF& a, const PointF& b, const Points& path) {
-    for (size_t i = 1; i < path.size(); ++i) {
-        if (SegmentsCross(a, b, path[i - 1], path[i])) {
-            return true;
-        }
-    }
-    return false;
+    const auto crosses = [&](const PointF& from, const PointF& to) { return SegmentsCross(a, b, from, to); };
+    return std::adjacent_find(path.begin(), path.end(), crosses) != path.end();
 }
 
 Points MeetingsWithRing(const PointF& a, const PointF& b, const Points& ring) {

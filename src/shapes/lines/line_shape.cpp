@@ -1,40 +1,15 @@
 #include "shapes/lines/line_shape.h"
 
-#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
-#include "shape/json_text.h"
-#include "shape/point_json.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
 #include "shapes/lines/crossing_mark.h"
-#include "shapes/lines/line_geometry.h"
 
 namespace rulecanvas {
-
-using platform::LockGuard;
-
 namespace {
 
-template <LineOrientation orientation>
-bool Register(const char* typeName) {
-    return CShapeFactory::GetInstance().Register(typeName, &MakeShape<CLineShape, orientation>);
-}
-
-const bool registered = Register<LineOrientation::Free>("LineShape") &&
-                        Register<LineOrientation::Vertical>("VerticalLineShape") &&
-                        Register<LineOrientation::Horizontal>("HorizontalLineShape");
-
-int ShapeTypeOf(LineOrientation orientation) {
-    switch (orientation) {
-    case LineOrientation::Vertical:
-        return 3;
-    case LineOrientation::Horizontal:
-        return 2;
-    case LineOrientation::Free:
-        break;
-    }
-    return 1;
-}
+const bool registered = Register<CLineShape, LineOrientation::Free>("LineShape") &&
+                        Register<CLineShape, LineOrientation::Vertical>("VerticalLineShape") &&
+                        Register<CLineShape, LineOrientation::Horizontal>("HorizontalLineShape");
 
 /// The mark goes by the direction that the host gave; the style's direction is that of arrow lines.
 void DrawMarkedSegment(const PointF& from, const PointF& to, const ShapeLook& look, IContainerGraphics& surface) {
@@ -55,7 +30,8 @@ void DrawMarkedSegment(const PointF& from, const PointF& to, const ShapeLook& lo
 } // namespace
 
 CLineShape::CLineShape(LineOrientation lineOrientation) : orientation(lineOrientation) {
-    shapeType = ShapeTypeOf(orientation);
+    constexpr int typeOf[] = {FreeLineType, VerticalLineType, HorizontalLineType};
+    shapeType = typeOf[static_cast<int>(orientation)];
     maxPtNum = LinePoints;
 }
 
@@ -69,19 +45,6 @@ CLineShape::CLineShape(const CLineShape& other) : CLineShape(other.orientation) 
     if (other.eventNameSet) {
         SetEventName(other.GetEventName().c_str());
     }
-}
-
-size_t CLineShape::MaximumPoints() const {
-    return LinePoints; // limits of the host are for lines that may bend
-}
-
-PointF CLineShape::Oriented(const PointF& point, const PointF& other) const {
-    return PointF{orientation == LineOrientation::Vertical ? other.x : point.x,
-                  orientation == LineOrientation::Horizontal ? other.y : point.y};
-}
-
-bool CLineShape::IsWithinLimit(const PointF& first, const PointF& point) const {
-    return eventNameSet || (InPolygon(limitArea, point) && !CrossesPath(first, point, limitArea));
 }
 
 bool CLineShape::DragPoint(int index, const PointF& to, const ClientRect& view) {

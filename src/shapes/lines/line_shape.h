@@ -22,9 +22,17 @@ class CLineShape : public CLineFamilyShape {
     bool ClipToPolygon(const char* text, const char* key, int mode);
 
   protected:
-    size_t MaximumPoints() const override;
-    PointF Oriented(const PointF& point, const PointF& other) const override;
-    bool IsWithinLimit(const PointF& first, const PointF& point) const override;
+    size_t MaximumPoints() const override {
+        return LinePoints; // limits of the host are for lines that may bend
+    }
+    PointF Oriented(const PointF& point, const PointF& other) const override {
+        return PointF{orientation == LineOrientation::Vertical ? other.x : point.x,
+                      orientation == LineOrientation::Horizontal ? other.y : point.y};
+    }
+
+    bool IsWithinLimit(const PointF& first, const PointF& point) const override {
+        return eventNameSet || (InPolygon(limitArea, point) && !CrossesPath(first, point, limitArea));
+    }
     /// An end stays in the view and in the line's direction.
     bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
     void Draw(const ShapeLook& look, PaintPass& pass) override;

@@ -1,15 +1,23 @@
-#include "shapes/lines/x_line_shape.h"
-
 #include "shape/drawing.h"
 #include "shape/shape_factory.h"
 #include "shapes/lines/crossing_mark.h"
+#include "shapes/lines/path_line_shape.h"
 
 namespace rulecanvas {
 namespace {
 
-const bool registered = CShapeFactory::GetInstance().Register("XLineShape", &MakeShape<CXLineShape>);
+/// A tripwire: a path of up to 20 points whose sides are marked "A" and "B" at its middle segment, with arrows for the
+/// direction of crossing that the host gave.
+class CXLineShape final : public CPathLineShape {
+  public:
+    CXLineShape() { maxPtNum = LongestPath; }
 
-constexpr int LongestPath = 20;
+  private:
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+};
+
+const bool registered = Register<CXLineShape>("XLineShape");
+
 constexpr float NameSize = 0.0F;
 constexpr float LetterSize = 1.0F;
 constexpr float SideArrowWidth = 1.0F;
@@ -37,10 +45,6 @@ void DrawSides(const PointF& from, const PointF& to, const ShapeLook& look, ICon
 }
 
 } // namespace
-
-CXLineShape::CXLineShape() {
-    maxPtNum = LongestPath;
-}
 
 void CXLineShape::Draw(const ShapeLook& look, PaintPass& pass) {
     const Points& path = look.Path();

@@ -1,31 +1,11 @@
 #include "shapes/paths/click_path_shape.h"
 
-#include "geometry/hit_tests.h"
-#include "geometry/segments.h"
 #include "shape/drawing.h"
 #include "shape/point_json.h"
-#include "shape/text.h"
 
 #include <utility>
 
 namespace rulecanvas {
-
-using platform::LockGuard;
-
-namespace {
-
-constexpr int MostPoints = 20;
-constexpr int FewestPoints = 3;
-constexpr int MinimumSpacing = 4;
-constexpr PointF NoPoint{-1.0F, -1.0F};
-
-} // namespace
-
-CClickPathShape::CClickPathShape() {
-    maxPtNum = MostPoints;
-    minPtNum = FewestPoints;
-    figure.lastPoint = NoPoint;
-}
 
 CVideoAnalyseShape* CClickPathShape::HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
     const PointF press = PositionOf(event);
@@ -35,9 +15,14 @@ CVideoAnalyseShape* CClickPathShape::HitTestRButtonDown(const ContainerMouseEven
         }
     } else if (state == Complete && HandleRightPress(press) && enableRBtnDelete) {
         LockGuard guard(lock);
-        const int level = LevelOf(press, true);
-        hitLevel = level == Outside ? hitLevel : level;
+        return AnswerRightPress(press, hitLevel);
     }
+    return this;
+}
+
+CVideoAnalyseShape* CClickPathShape::AnswerRightPress(const PointF& press, int& hitLevel) {
+    const int level = LevelOf(press, true);
+    hitLevel = level == Outside ? hitLevel : level;
     return this;
 }
 
@@ -56,19 +41,7 @@ void CClickPathShape::HandleRButtonEvent(const ContainerMouseEvent& event, int h
     DeleteByRightButton(hitLevel);
 }
 
-bool CClickPathShape::HasEnoughPoints() const {
-    LockGuard guard(lock);
-    return static_cast<int>(figure.points.size()) >= minPtNum;
-}
-
-bool CClickPathShape::OfferFinish() {
-    return true;
-}
-
 Outcome CClickPathShape::StartDrawing(const PointerEvent& press) {
-    if (!AcceptsPoint(press.position, press.view)) {
-        return {};
-    }
     figure.points.assign(1, press.position);
     figure.anchorPoint = press.position;
     figure.lastPoint = press.position;
@@ -76,6 +49,7 @@ Outcome CClickPathShape::StartDrawing(const PointerEvent& press) {
 }
 
 Outcome CClickPathShape::ContinueDrawing(const PointerEvent& press) {
+    constexpr int minimumSpacing = 4;
     Points& path = figure.points;
     if (path.empty() || !AcceptsPoint(press.position, press.view) || press.position == path.back()) {
         return {};
@@ -83,38 +57,12 @@ Outcome CClickPathShape::ContinueDrawing(const PointerEvent& press) {
     const PointF last = path.back();
     const bool isLast = static_cast<int>(path.size()) + 1 == maxPtNum;
     path.push_back(press.position);
-    if (!AcceptsLastPoint(isLast) || CloserThan(MinimumSpacing, last, press.position) || !IsConvexEnough()) {
+    if (!AcceptsLastPoint(isLast) || CloserThan(minimumSpacing, last, press.position) || !IsConvexEnough()) {
         path.pop_back();
         return {};
     }
     figure.anchorPoint = press.position;
     return isLast ? Finish() : Outcome{};
-}
-
-bool CClickPathShape::AcceptsLastPoint(bool /*isLast*/) const {
-    return true;
-}
-
-Outcome CClickPathShape::DrawTo(const PointerEvent& position) {
-    figure.lastPoint = position.position;
-    return {};
-}
-
-Outcome CClickPathShape::EndDrawing(const PointerEvent& /*release*/) {
-    return {std::nullopt, effects::HoldMouse}; // a host may have let go of the mouse with the button
-}
-
-Outcome CClickPathShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
-    figure.grabbedIndex = VertexIndex(figure.points, press.position);
-    if (figure.grabbedIndex >= 0) {
-        figure.anchorPoint = figure.points[static_cast<size_t>(figure.grabbedIndex)];
-        return Grab(Adjusting);
-    }
-    return InPolygon(figure.points, press.position) ? GrabWhole(press.position) : Outcome{};
-}
-
-Outcome CClickPathShape::EndAdjust(const PointerEvent& release) {
-    return IsOutsideLimit(release.position) ? Outcome{} : Finish();
 }
 
 bool CClickPathShape::DragPoint(int index, const PointF& to, const ClientRect& /*view*/) {
@@ -128,31 +76,6 @@ bool CClickPathShape::DragPoint(int index, const PointF& to, const ClientRect& /
         return false;
     }
     return true;
-}
-
-bool CClickPathShape::AcceptsVertex(size_t /*vertex*/) const {
-    return IsConvexEnough();
-}
-
-void CClickPathShape::SetShapePoints(Points newPoints) {
-    {
-        LockGuard guard(lock);
-        figure.points = std::move(newPoints);
-    }
-    MarkClaimStale();
-}
-
-bool CClickPathShape::IsConvexEnough() const {
-    return !convex || IsConvex(figure.points);
-}
-
-bool CClickPathShape::IsOutsideLimit(const PointF& point) const {
-    return m_recWnd.left >= 0 && !InRectangle(m_recWnd, point);
-}
-
-void CClickPathShape::ReadWord(const char* option) {
-    convex = convex || IsWord(option, "Convex");
-    enableRBtnDelete = enableRBtnDelete || IsWord(option, "EnableRBtnDelete");
 }
 
 /// What a host has stored is taken as it is: few points, crossing edges and concave corners are tested only where the

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "geometry/segments.h"
 #include "shape/gesture_shape.h"
+#include "shape/text.h"
 
 namespace rulecanvas {
 
@@ -12,12 +14,15 @@ namespace rulecanvas {
 /// drawn, the last accepted mouse position while it is moved, and the place from which a vertex was dragged.
 class CClickPathShape : public CGestureShape {
   public:
-    CClickPathShape();
+    CClickPathShape() {
+        maxPtNum = LongestPath;
+        minPtNum = 3;
+        figure.lastPoint = PointF{-1.0F, -1.0F};
+    }
 
     /// Offers to finish a drawing, to act on an edge of the finished figure, or to delete it.
     CVideoAnalyseShape* HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) override;
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override;
-    void SetShapePoints(Points newPoints) override;
 
     /// A rectangle that gestures must end in; a negative left lifts the limit. For a figure that owns this one; none of
     /// this version does.
@@ -26,11 +31,19 @@ class CClickPathShape : public CGestureShape {
   protected:
     Outcome StartDrawing(const PointerEvent& press) override;
     Outcome ContinueDrawing(const PointerEvent& press) override;
-    Outcome DrawTo(const PointerEvent& position) override;
-    Outcome EndDrawing(const PointerEvent& release) override;
+    Outcome DrawTo(const PointerEvent& position) override {
+        figure.lastPoint = position.position;
+        return {};
+    }
+
+    Outcome EndDrawing(const PointerEvent& /*release*/) override {
+        return {std::nullopt, effects::HoldMouse}; // a host may have let go of the mouse with the button
+    }
     int LevelAt(const PointF& press) override { return LevelOf(press, HasInside()); }
-    Outcome StartEditing(const PointerEvent& press, int hitLevel) override;
-    Outcome EndAdjust(const PointerEvent& release) override;
+    Outcome EndAdjust(const PointerEvent& release) override {
+        return IsOutsideLimit(release.position) ? Outcome{} : Finish();
+    }
+    bool TakesPoints(const Points& /*points*/) const override { return true; }
     bool DragPoint(int index, const PointF& to, const ClientRect& view) override;
 
     virtual bool IsOnOutline(const PointF& press) const = 0;
@@ -40,25 +53,34 @@ class CClickPathShape : public CGestureShape {
     /// used up.
     virtual bool HandleRightPress(const PointF& press) = 0;
     /// Asked, without the lock, when the right button could finish a drawing that has points enough. False: it may not.
-    virtual bool OfferFinish();
+    virtual bool OfferFinish() { return true; }
     /// Whether the path may grow by its last point; `isLast` when it is the last one allowed.
-    virtual bool AcceptsLastPoint(bool isLast) const;
+    virtual bool AcceptsLastPoint(bool /*isLast*/) const { return true; }
     /// Whether a finished figure may have the vertex where it is.
-    virtual bool AcceptsVertex(size_t vertex) const;
+    virtual bool AcceptsVertex(size_t /*vertex*/) const { return IsConvexEnough(); }
     virtual bool IsPoint(const Json::Value& element) const = 0;
     /// Everything but the edges between consecutive points and the rubber line.
     virtual void DrawRest(const ShapeLook& look, IContainerGraphics& surface) = 0;
 
-    void ReadWord(const char* option) override;
+    void ReadWord(const char* option) override {
+        convex = convex || IsWord(option, "Convex");
+        enableRBtnDelete = enableRBtnDelete || IsWord(option, "EnableRBtnDelete");
+    }
+
     Refused Load(Loading& loading) override;
     void Draw(const ShapeLook& look, PaintPass& pass) override;
 
+    /// Claims a right press on the outline or inside; with the lock held.
+    CVideoAnalyseShape* AnswerRightPress(const PointF& press, int& hitLevel);
     int LevelOf(const PointF& press, bool hasInside) const;
-    bool IsConvexEnough() const;
-    bool IsOutsideLimit(const PointF& point) const;
+    bool IsConvexEnough() const { return !convex || IsConvex(figure.points); }
+    bool IsOutsideLimit(const PointF& point) const { return m_recWnd.left >= 0 && !InRectangle(m_recWnd, point); }
 
   private:
-    bool HasEnoughPoints() const;
+    bool HasEnoughPoints() const {
+        LockGuard guard(lock);
+        return static_cast<int>(figure.points.size()) >= minPtNum;
+    }
 
     bool convex = false;
     ClientRect m_recWnd{-1, -1, -1, -1};

@@ -1,26 +1,87 @@
-#include "shapes/paths/polygon_shape.h"
-
-#include "geometry/hit_tests.h"
-#include "geometry/segments.h"
 #include "shape/drawing.h"
 #include "shape/point_json.h"
 #include "shape/shape_factory.h"
+#include "shapes/paths/click_path_shape.h"
 
 #include <algorithm>
 
 namespace rulecanvas {
-
-using platform::LockGuard;
-
 namespace {
 
-using EdgePress = CPolygonShape::EdgePress;
+enum class EdgePress { Ignored, InsertsVertex };
 
-const bool registered =
-    CShapeFactory::GetInstance().Register("Polygon", &MakeShape<CPolygonShape, EdgePress::Ignored>) &&
-    CShapeFactory::GetInstance().Register("VirablePolygon", &MakeShape<CPolygonShape, EdgePress::InsertsVertex>);
+/// A closed polygon, drawn by clicking its vertices.
+///
+/// Edges that share no vertex never touch, whatever is drawn and dragged; only a configuration or an inserted vertex can
+/// bring in others. A drawing that its closing edge would cross is thrown away by the right button. The direction shows
+/// as arrows across the first edge.
+class CPolygonShape final : public CClickPathShape {
+  public:
+    explicit CPolygonShape(EdgePress onEdge) : edgePress(onEdge) {}
 
-constexpr size_t FewestWritten = 3;
+    bool RestartDrawing() override {
+        selected = true;
+        return CClickPathShape::RestartDrawing();
+    }
+
+    /// Appends the vertices.
+    void GetShapePoints(Points& out) const override {
+        LockGuard guard(lock);
+        out.insert(out.end(), figure.points.begin(), figure.points.end());
+    }
+
+  private:
+    /// The test shifts the polygon back, not on, by what the release lies beyond the last accepted position.
+    Outcome EndMove(const PointerEvent& release) override {
+        const auto dx = static_cast<float>(TruncateToInt(release.position.x - figure.anchorPoint.x));
+        const auto dy = static_cast<float>(TruncateToInt(release.position.y - figure.anchorPoint.y));
+        const auto isOutside = [&](const PointF& vertex) { return IsOutsideLimit(Shifted(vertex, -dx, -dy)); };
+        return std::any_of(figure.points.begin(), figure.points.end(), isOutside) ? Outcome{} : Finish();
+    }
+
+    /// A move keeps every edge apart from the others but for the rounding of fractions of a pixel, which can bring a
+    /// vertex onto an edge.
+    bool MovePoints(float dx, float dy, const ClientRect& view) override {
+        if (ShiftsExactly(figure.points, dx, dy) || !IsSound()) {
+            return CClickPathShape::MovePoints(dx, dy, view);
+        }
+        Points before = figure.points;
+        if (CClickPathShape::MovePoints(dx, dy, view) && IsSound()) {
+            return true;
+        }
+        figure.points = std::move(before);
+        return false;
+    }
+
+    bool IsOnOutline(const PointF& press) const override { return OnRing(figure.points, press); }
+    bool HasInside() const override { return true; }
+    /// A polygon that takes new vertices spends every right press on that: it is not deleted by one.
+    bool HandleRightPress(const PointF& press) override;
+    bool OfferFinish() override;
+    bool AcceptsLastPoint(bool isLast) const override {
+        return PassesValidation(figure.points, isLast) && !LastEdgeCrosses(figure.points) &&
+               !(isLast && ClosingEdgeCrosses(figure.points));
+    }
+
+    bool AcceptsVertex(size_t vertex) const override {
+        return !VertexCrosses(figure.points, vertex) && CClickPathShape::AcceptsVertex(vertex);
+    }
+    bool IsPoint(const Json::Value& element) const override { return !element.isNull(); }
+    Json::Value WriteGeometry() const override {
+        constexpr size_t fewest = 3;
+        return figure.points.size() < fewest ? Json::Value() : WritePoints(Truncated(figure.points), figure.fitted);
+    }
+    CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
+    bool FitToPaint(const PaintPass& pass) override;
+    void DrawRest(const ShapeLook& look, IContainerGraphics& surface) override;
+
+    bool IsSound() const { return !RingCrosses(figure.points) && IsConvexEnough(); }
+
+    const EdgePress edgePress;
+};
+
+const bool registered = Register<CPolygonShape, EdgePress::Ignored>("Polygon") &&
+                        Register<CPolygonShape, EdgePress::InsertsVertex>("VirablePolygon");
 
 enum DrawnDirection { NoDirection = -1, Inward = 0, Outward = 1, BothWays = 2 };
 
@@ -51,48 +112,10 @@ void DrawDirection(const ShapeLook& look, IContainerGraphics& surface) {
 
 } // namespace
 
-bool CPolygonShape::RestartDrawing() {
-    selected = true;
-    return CClickPathShape::RestartDrawing();
-}
-
-void CPolygonShape::GetShapePoints(Points& out) const {
-    LockGuard guard(lock);
-    out.insert(out.end(), figure.points.begin(), figure.points.end());
-}
-
-/// A move keeps every edge apart from the others but for the rounding of fractions of a pixel, which can bring a vertex
-/// onto an edge.
-bool CPolygonShape::MovePoints(float dx, float dy, const ClientRect& view) {
-    if (ShiftsExactly(figure.points, dx, dy) || !IsSound()) {
-        return CClickPathShape::MovePoints(dx, dy, view);
-    }
-    Points before = figure.points;
-    if (CClickPathShape::MovePoints(dx, dy, view) && IsSound()) {
-        return true;
-    }
-    figure.points = std::move(before);
-    return false;
-}
-
-bool CPolygonShape::IsSound() const {
-    return !RingCrosses(figure.points) && IsConvexEnough();
-}
-
-bool CPolygonShape::IsOnOutline(const PointF& press) const {
-    return OnRing(figure.points, press);
-}
-
-/// A polygon that takes new vertices spends every right press on that: it is not deleted by one.
 bool CPolygonShape::HandleRightPress(const PointF& press) {
     if (edgePress == EdgePress::Ignored) {
         return true;
     }
-    InsertVertex(press);
-    return false;
-}
-
-void CPolygonShape::InsertVertex(const PointF& press) {
     Take(nullptr, [&]() -> Outcome {
         Points& ring = figure.points;
         const int count = static_cast<int>(ring.size());
@@ -109,6 +132,7 @@ void CPolygonShape::InsertVertex(const PointF& press) {
         }
         return {};
     });
+    return false;
 }
 
 /// Offering the right button's finish is where a drawing that cannot be closed ends: nothing the user could click next
@@ -125,27 +149,6 @@ bool CPolygonShape::OfferFinish() {
         return {Waiting, effects::Finish};
     });
     return closes;
-}
-
-bool CPolygonShape::AcceptsLastPoint(bool isLast) const {
-    return PassesValidation(figure.points, isLast) && !LastEdgeCrosses(figure.points) &&
-           !(isLast && ClosingEdgeCrosses(figure.points));
-}
-
-bool CPolygonShape::AcceptsVertex(size_t vertex) const {
-    return !VertexCrosses(figure.points, vertex) && CClickPathShape::AcceptsVertex(vertex);
-}
-
-/// The test shifts the polygon back, not on, by what the release lies beyond the last accepted position.
-Outcome CPolygonShape::EndMove(const PointerEvent& release) {
-    const auto dx = static_cast<float>(TruncateToInt(release.position.x - figure.anchorPoint.x));
-    const auto dy = static_cast<float>(TruncateToInt(release.position.y - figure.anchorPoint.y));
-    const auto isOutside = [&](const PointF& vertex) { return IsOutsideLimit(Shifted(vertex, -dx, -dy)); };
-    return std::any_of(figure.points.begin(), figure.points.end(), isOutside) ? Outcome{} : Finish();
-}
-
-Json::Value CPolygonShape::WriteGeometry(const Points& points, const ViewSize& view) const {
-    return points.size() < FewestWritten ? Json::Value() : WritePoints(Truncated(points), view);
 }
 
 bool CPolygonShape::FitToPaint(const PaintPass& pass) {

@@ -1,7 +1,6 @@
-#include "shapes/regions/pixel_count_shape.h"
-
 #include "shape/drawing.h"
 #include "shape/shape_factory.h"
+#include "shapes/regions/rectangle_shape.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +8,6 @@
 
 namespace rulecanvas {
 namespace {
-
-const bool registered = CShapeFactory::GetInstance().Register("PixelCountShape", &MakeShape<CPixelCountShape>);
 
 constexpr float OutlineWidth = 1.0F;
 constexpr PointF TextOffset{-15.0F, -2.0F};
@@ -28,37 +25,68 @@ int PixelsBetween(float from, float to, int display, int video) {
     return TruncateToInt(distance * video / display);
 }
 
+/// A rectangle that measures itself in pixels of the video, not of the screen, and shows the result in its middle.
+///
+/// Its configuration is that size. A configured rectangle gets its corners, in the middle of the view, by the first
+/// paint that knows how large view and video are; one that is drawn or resized is measured by every paint.
+class CPixelCountShape final : public CRectangleShape {
+  public:
+    CPixelCountShape() {
+        ChangeStyle([](ShapeStyle& changed) { changed.lineThickness = 1; });
+        minimumSide = std::numeric_limits<int>::min(); // whatever the view leaves of a drag is a size worth measuring
+    }
+
+  private:
+    void Forget() override {
+        placePending = false; // or a later paint would put it in the place of what the user draws next
+        CRectangleShape::Forget();
+    }
+
+    void ReadWord(const char* /*option*/) override {}
+    Refused Load(Loading& loading) override {
+        if (!IsArrayOf(loading.geometry, 2)) {
+            return loading.Refuse("an array of a width and a height");
+        }
+        pixelWidth = loading.geometry[0].asInt();
+        pixelHeight = loading.geometry[1].asInt();
+        placePending = true;
+        Enter(Complete);
+        return std::nullopt;
+    }
+
+    Json::Value WriteGeometry() const override {
+        Json::Value measured;
+        if (HasCorners()) {
+            measured.append(pixelWidth);
+            measured.append(pixelHeight);
+        }
+        return measured;
+    }
+
+    bool WritesPlaces() const override { return false; }
+    bool FitToPaint(const PaintPass& pass) override;
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+
+    void Place(const ClientRect& painted, const ClientRect& viewZero);
+    void Measure() {
+        const Points& corners = figure.points;
+        if (HasCorners() && (state == Drawing || state == Adjusting)) {
+            pixelWidth = PixelsBetween(corners[0].x, corners[2].x, figure.fitted.width, video.width);
+            pixelHeight = PixelsBetween(corners[0].y, corners[2].y, figure.fitted.height, video.height);
+        }
+    }
+
+    int pixelWidth = 0;
+    int pixelHeight = 0;
+    /// The video's resolution as it was when a paint first knew it.
+    ViewSize video;
+    /// The configured size waits for its corners.
+    bool placePending = false;
+};
+
+const bool registered = Register<CPixelCountShape>("PixelCountShape");
+
 } // namespace
-
-CPixelCountShape::CPixelCountShape() {
-    ChangeStyle([](ShapeStyle& changed) { changed.lineThickness = 1; });
-    minimumSide = std::numeric_limits<int>::min(); // whatever the view leaves of a drag is a size worth measuring
-}
-
-Refused CPixelCountShape::Load(Loading& loading) {
-    if (!IsArrayOf(loading.geometry, 2)) {
-        return loading.Refuse("an array of a width and a height");
-    }
-    pixelWidth = loading.geometry[0].asInt();
-    pixelHeight = loading.geometry[1].asInt();
-    placePending = true;
-    Enter(Complete);
-    return std::nullopt;
-}
-
-Json::Value CPixelCountShape::WriteGeometry(const Points& points, const ViewSize& /*view*/) const {
-    Json::Value measured;
-    if (points.size() >= CornerCount) {
-        measured.append(pixelWidth);
-        measured.append(pixelHeight);
-    }
-    return measured;
-}
-
-void CPixelCountShape::Forget() {
-    placePending = false; // or a later paint would put it in the place of what the user draws next
-    CRectangleShape::Forget();
-}
 
 bool CPixelCountShape::FitToPaint(const PaintPass& pass) {
     const ClientRect* painted = pass.PaintedRect();
@@ -92,14 +120,6 @@ void CPixelCountShape::Place(const ClientRect& painted, const ClientRect& viewZe
         placePending = false;
         figure.FitTo(viewZero);
         MarkClaimStale();
-    }
-}
-
-void CPixelCountShape::Measure() {
-    const Points& corners = figure.points;
-    if (HasCorners() && (state == Drawing || state == Adjusting)) {
-        pixelWidth = PixelsBetween(corners[0].x, corners[2].x, figure.fitted.width, video.width);
-        pixelHeight = PixelsBetween(corners[0].y, corners[2].y, figure.fitted.height, video.height);
     }
 }
 

@@ -1,34 +1,19 @@
 #include "shapes/regions/rectangle_shape.h"
 
-#include "geometry/hit_tests.h"
 #include "shape/drawing.h"
-#include "shape/point_json.h"
 #include "shape/shape_factory.h"
-#include "shape/text.h"
 #include "shapes/regions/mosaic.h"
 
 #include <algorithm>
 
 namespace rulecanvas {
-
-using platform::LockGuard;
-
 namespace {
 
-const bool registered = CShapeFactory::GetInstance().Register("Rect", &MakeShape<CRectangleShape>);
+const bool registered = Register<CRectangleShape>("Rect");
 
-constexpr int RectangleType = 5;
 constexpr Effect FinishDrawn[] = {Effect::StopListening, Effect::GiveMouse, Effect::TellCreation, Effect::TellState};
 
-size_t OppositeCorner(int corner) {
-    return static_cast<size_t>(corner < 2 ? corner + 2 : corner - 2);
-}
-
 } // namespace
-
-CRectangleShape::CRectangleShape() {
-    shapeType = RectangleType;
-}
 
 CVideoAnalyseShape* CRectangleShape::HitTestRButtonDown(const ContainerMouseEvent& event, int& hitLevel) {
     if (!enableRBtnDelete) {
@@ -50,27 +35,6 @@ int CRectangleShape::LevelAt(const PointF& press) {
     return selected ? Outside : Miss;
 }
 
-/// Beside it only a selected rectangle answers, and selected shapes are asked everywhere.
-Claim CRectangleShape::CompleteClaim() const {
-    return Claim::Around(figure.points, HitReach, false);
-}
-
-void CRectangleShape::HandleRButtonEvent(const ContainerMouseEvent& /*event*/, int hitLevel) {
-    DeleteByRightButton(hitLevel);
-}
-
-Outcome CRectangleShape::StartDrawing(const PointerEvent& press) {
-    if (!AcceptsPoint(press.position, press.view)) {
-        return {};
-    }
-    figure.anchorPoint = press.position;
-    return Begin(Drawing);
-}
-
-Outcome CRectangleShape::DrawTo(const PointerEvent& position) {
-    return AdjustTo(position);
-}
-
 Outcome CRectangleShape::EndDrawing(const PointerEvent& event) {
     const PointF release = WholePixels(event.position);
     if (!DragCoversCropLimit(release) || !AcceptsPoint(release, event.view)) {
@@ -82,33 +46,13 @@ Outcome CRectangleShape::EndDrawing(const PointerEvent& event) {
     return {Complete, FinishDrawn};
 }
 
-Outcome CRectangleShape::StartEditing(const PointerEvent& press, int /*hitLevel*/) {
-    figure.grabbedIndex = VertexIndex(figure.points, press.position);
+Outcome CRectangleShape::StartEditing(const PointerEvent& press, int hitLevel) {
+    const Outcome outcome = CBoxShape::StartEditing(press, hitLevel);
     if (figure.grabbedIndex >= 0) {
-        figure.anchorPoint = figure.points.at(OppositeCorner(figure.grabbedIndex));
-        return Grab(Adjusting);
+        const size_t opposite = (static_cast<size_t>(figure.grabbedIndex) + 2) % CornerCount;
+        figure.anchorPoint = figure.points.at(opposite);
     }
-    return InPolygon(figure.points, press.position) ? GrabWhole(press.position) : Outcome{};
-}
-
-Outcome CRectangleShape::EndMove(const PointerEvent& release) {
-    return MoveCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
-}
-
-Outcome CRectangleShape::EndAdjust(const PointerEvent& release) {
-    return DragCoversCropLimit(WholePixels(release.position)) ? Finish() : Outcome{};
-}
-
-bool CRectangleShape::DragPoint(int /*index*/, const PointF& to, const ClientRect& view) {
-    return SpanCorners(figure.anchorPoint, to, view, minimumSide);
-}
-
-void CRectangleShape::SetShapePoints(Points newPoints) {
-    LockGuard guard(lock);
-    if (newPoints.size() == figure.points.size()) {
-        figure.points = std::move(newPoints);
-    }
-    MarkClaimStale();
+    return outcome;
 }
 
 void CRectangleShape::PlaceAt(const PointF& centre, int width, int height) {
@@ -140,15 +84,13 @@ bool CRectangleShape::DragCoversCropLimit(const PointF& release) const {
                            PointF{std::max(anchor.x, release.x), std::max(anchor.y, release.y)});
 }
 
-bool CRectangleShape::MoveCoversCropLimit(const PointF& release) const {
+Outcome CRectangleShape::EndMove(const PointerEvent& event) {
+    const PointF release = WholePixels(event.position);
     const auto dx = static_cast<float>(TruncateToInt(release.x - figure.anchorPoint.x));
     const auto dy = static_cast<float>(TruncateToInt(release.y - figure.anchorPoint.y));
-    return !HasCorners() || CoversCropLimit(Shifted(figure.points[0], dx, dy), Shifted(figure.points[2], dx, dy));
-}
-
-void CRectangleShape::ReadWord(const char* option) {
-    textOnly = textOnly || IsWord(option, "TextOnly");
-    enableRBtnDelete = enableRBtnDelete || IsWord(option, "EnableRBtnDelete");
+    const Points& corners = figure.points;
+    const bool covers = !HasCorners() || CoversCropLimit(Shifted(corners[0], dx, dy), Shifted(corners[2], dx, dy));
+    return covers ? Finish() : Outcome{};
 }
 
 Refused CRectangleShape::Load(Loading& loading) {

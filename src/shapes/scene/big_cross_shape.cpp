@@ -1,13 +1,10 @@
-#include "shapes/scene/big_cross_shape.h"
-
 #include "geometry/grid.h"
 #include "shape/drawing.h"
 #include "shape/shape_factory.h"
+#include "shapes/scene/placed_crosses.h"
 
 namespace rulecanvas {
 namespace {
-
-const bool registered = CShapeFactory::GetInstance().Register("BigCrossShape", &MakeShape<CBigCrossShape>);
 
 constexpr float DotHalfSide = 5.0F;
 constexpr int BandHalfWidth = 1;
@@ -46,47 +43,53 @@ void DrawCrossHair(const PointF& cross, const ShapeLook& look, IContainerGraphic
     surface.FillEllipse(&dotTopLeft, &dotBottomRight, width, colour, &colour);
 }
 
-} // namespace
-
-Outcome CBigCrossShape::StartEditing(const PointerEvent& /*press*/, int hitLevel) {
-    return hitLevel == OnOutline ? Begin(Adjusting) : Outcome{};
-}
-
-void CBigCrossShape::DragCross(PointF& cross, const PointerEvent& position) {
-    cross = position.ClampedFrom(cross);
-}
-
-/// Where the mouse is, be it outside the view.
-void CBigCrossShape::DropCross(PointF& cross, const PointerEvent& release) {
-    cross = release.position;
-}
-
-/// Bands that are missing, and borders that are missing in one, count as zeros.
-Points CBigCrossShape::ReadCrosses(const Json::Value& member) {
-    Points crosses;
-    if (member.isNull()) {
+/// Two cross-hairs whose lines span the whole picture, with a dot where they cross.
+///
+/// A configuration gives every cross-hair as two thin bands of the grid, one along each line; the cross-hair runs in
+/// the middle of the band, one unit beside its border.
+class CBigCrossShape final : public CPlacedCrosses {
+    int Maximum() const override { return CrossHairs; }
+    Outcome StartEditing(const PointerEvent& /*press*/, int hitLevel) override {
+        return hitLevel == OnOutline ? Begin(Adjusting) : Outcome{};
+    }
+    void DragCross(PointF& cross, const PointerEvent& position) override { cross = position.ClampedFrom(cross); }
+    /// Where the mouse is, be it outside the view.
+    void DropCross(PointF& cross, const PointerEvent& release) override { cross = release.position; }
+    /// Bands that are missing, and borders that are missing in one, count as zeros.
+    Points ReadCrosses(const Json::Value& member) override {
+        Points crosses;
+        if (member.isNull()) {
+            return crosses;
+        }
+        for (Json::ArrayIndex i = 0; i < 2 * CrossHairs; i += 2) {
+            const double y = MiddleOf(member[i], Top);
+            const double x = MiddleOf(member[i + 1], Left);
+            crosses.push_back(ToPixels(x, y, figure.fitted));
+        }
         return crosses;
     }
-    for (Json::ArrayIndex i = 0; i < 2 * CrossHairs; i += 2) {
-        const double y = MiddleOf(member[i], Top);
-        const double x = MiddleOf(member[i + 1], Left);
-        crosses.push_back(ToPixels(x, y, figure.fitted));
-    }
-    return crosses;
-}
 
-Json::Value CBigCrossShape::WriteGeometry(const Points& points, const ViewSize& view) const {
-    Json::Value bands;
-    if (points.size() != CrossHairs) {
+    Json::Value WriteGeometry() const override {
+        Json::Value bands;
+        if (figure.points.size() != CrossHairs) {
+            return bands;
+        }
+        for (const PointF& cross : figure.points) {
+            const GridPoint grid = ToGrid(cross, figure.fitted);
+            bands.append(Band(0, Beside(grid.y, -BandHalfWidth), GridSpan, Beside(grid.y, BandHalfWidth)));
+            bands.append(Band(Beside(grid.x, -BandHalfWidth), 0, Beside(grid.x, BandHalfWidth), GridSpan));
+        }
         return bands;
     }
-    for (const PointF& cross : points) {
-        const GridPoint grid = ToGrid(cross, view);
-        bands.append(Band(0, Beside(grid.y, -BandHalfWidth), GridSpan, Beside(grid.y, BandHalfWidth)));
-        bands.append(Band(Beside(grid.x, -BandHalfWidth), 0, Beside(grid.x, BandHalfWidth), GridSpan));
-    }
-    return bands;
-}
+
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+
+    static constexpr int CrossHairs = 2;
+};
+
+const bool registered = Register<CBigCrossShape>("BigCrossShape");
+
+} // namespace
 
 void CBigCrossShape::Draw(const ShapeLook& look, PaintPass& pass) {
     for (const PointF& cross : look.Path()) {

@@ -1,7 +1,5 @@
 #include "shapes/scene/placed_crosses.h"
 
-#include "geometry/hit_tests.h"
-
 namespace rulecanvas {
 namespace {
 
@@ -15,11 +13,6 @@ ClientRect HitBoxOf(const PointF& cross) {
 
 } // namespace
 
-int CPlacedCrosses::LevelAt(const PointF& press) {
-    figure.grabbedIndex = CrossAt(press);
-    return figure.grabbedIndex < 0 ? Miss : OnOutline;
-}
-
 int CPlacedCrosses::CrossAt(const PointF& press) const {
     const Points& crosses = figure.points;
     for (size_t i = 0; i < crosses.size() && static_cast<int>(i) < Maximum(); ++i) {
@@ -30,16 +23,9 @@ int CPlacedCrosses::CrossAt(const PointF& press) const {
     return -1;
 }
 
-Claim CPlacedCrosses::CompleteClaim() const {
-    return Claim::Around(figure.points, HitReach, false);
-}
-
-Outcome CPlacedCrosses::StartDrawing(const PointerEvent& press) {
-    return ContinueDrawing(press);
-}
-
 Outcome CPlacedCrosses::ContinueDrawing(const PointerEvent& press) {
-    if (!HasRoom()) {
+    const int count = static_cast<int>(figure.points.size());
+    if (count > 0 && count >= Maximum()) {
         // the host lowered the maximum between two clicks
         return IsListening() ? Outcome{} : Outcome{Complete, effects::Tell};
     }
@@ -48,19 +34,6 @@ Outcome CPlacedCrosses::ContinueDrawing(const PointerEvent& press) {
     }
     figure.points.push_back(press.position);
     return Begin(Drawing);
-}
-
-bool CPlacedCrosses::HasRoom() const {
-    const int count = static_cast<int>(figure.points.size());
-    return count == 0 || count < Maximum();
-}
-
-Outcome CPlacedCrosses::DrawTo(const PointerEvent& position) {
-    if (!figure.points.empty()) {
-        PointF& last = figure.points.back();
-        last = position.ClampedFrom(last);
-    }
-    return {};
 }
 
 /// The last cross stays where the button was released, be it outside the view.
@@ -74,29 +47,11 @@ Outcome CPlacedCrosses::EndDrawing(const PointerEvent& release) {
     return {Complete, FinishKeepingMouse};
 }
 
-Outcome CPlacedCrosses::AdjustTo(const PointerEvent& position) {
-    if (PointF* cross = GrabbedCross()) {
-        DragCross(*cross, position);
-    }
-    return {};
-}
-
 Outcome CPlacedCrosses::EndAdjust(const PointerEvent& release) {
     if (PointF* cross = GrabbedCross()) {
         DropCross(*cross, release);
     }
     return {Complete, FinishKeepingMouse};
-}
-
-PointF* CPlacedCrosses::GrabbedCross() {
-    const auto index = static_cast<size_t>(figure.grabbedIndex);
-    return figure.grabbedIndex < 0 || index >= figure.points.size() ? nullptr : &figure.points[index];
-}
-
-Refused CPlacedCrosses::Load(Loading& loading) {
-    figure.points = ReadCrosses(loading.geometry);
-    Enter(Complete);
-    return std::nullopt;
 }
 
 } // namespace rulecanvas

@@ -21,28 +21,50 @@ class CPlacedCrosses : public CGestureShape {
     virtual int CrossAt(const PointF& press) const;
     /// What a move of a dragged cross and its release do.
     virtual void DragCross(PointF& cross, const PointerEvent& position) = 0;
-    virtual void DropCross(PointF& cross, const PointerEvent& release) = 0;
+    virtual void DropCross(PointF& /*cross*/, const PointerEvent& /*release*/) {}
     /// The crosses as the member of a configuration gives them; null when it is missing.
     virtual Points ReadCrosses(const Json::Value& member) = 0;
 
-    Outcome StartDrawing(const PointerEvent& press) override;
+    Outcome StartDrawing(const PointerEvent& press) override { return ContinueDrawing(press); }
     Outcome ContinueDrawing(const PointerEvent& press) override;
-    Outcome DrawTo(const PointerEvent& position) override;
+    Outcome DrawTo(const PointerEvent& position) override {
+        if (!figure.points.empty()) {
+            PointF& last = figure.points.back();
+            last = position.ClampedFrom(last);
+        }
+        return {};
+    }
+
     Outcome EndDrawing(const PointerEvent& release) override;
-    Outcome AdjustTo(const PointerEvent& position) override;
+    Outcome AdjustTo(const PointerEvent& position) override {
+        if (PointF* cross = GrabbedCross()) {
+            DragCross(*cross, position);
+        }
+        return {};
+    }
+
     Outcome EndAdjust(const PointerEvent& release) override;
 
     bool TakesStyle() const override { return false; }
-    Refused Load(Loading& loading) override;
+    Refused Load(Loading& loading) override {
+        figure.points = ReadCrosses(loading.geometry);
+        Enter(Complete);
+        return std::nullopt;
+    }
+
     CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
-    int LevelAt(const PointF& press) override;
-    Claim CompleteClaim() const override;
+    int LevelAt(const PointF& press) override {
+        figure.grabbedIndex = CrossAt(press);
+        return figure.grabbedIndex < 0 ? Miss : OnOutline;
+    }
+
+    Claim CompleteClaim() const override { return Claim::Around(figure.points, HitReach, false); }
 
     /// The cross under the last press, or null.
-    PointF* GrabbedCross();
-
-  private:
-    bool HasRoom() const;
+    PointF* GrabbedCross() {
+        const auto index = static_cast<size_t>(figure.grabbedIndex);
+        return figure.grabbedIndex < 0 || index >= figure.points.size() ? nullptr : &figure.points[index];
+    }
 };
 
 } // namespace rulecanvas

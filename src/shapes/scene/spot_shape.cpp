@@ -1,6 +1,5 @@
-#include "shapes/scene/spot_shape.h"
-
 #include "shape/drawing.h"
+#include "shape/gesture_shape.h"
 #include "shape/point_json.h"
 #include "shape/shape_factory.h"
 #include "shape/text.h"
@@ -10,7 +9,84 @@
 namespace rulecanvas {
 namespace {
 
-const bool registered = CShapeFactory::GetInstance().Register("SpotShape", &MakeShape<CSpotShape>);
+/// One place in the picture, marked with a small circle that the user places with a click and can drag around, and with
+/// the caption beside it.
+///
+/// It has one point or none. `anchorPoint` is the last accepted mouse position while it is dragged.
+class CSpotShape final : public CGestureShape {
+  public:
+    CSpotShape() { maxPtNum = 1; }
+
+    bool AwaitsPaint() const override { return false; }
+
+  private:
+    /// The click alone places the spot: nothing follows the mouse, and nothing is reported.
+    Outcome StartDrawing(const PointerEvent& press) override {
+        figure.points.assign(1, press.position);
+        return {Complete, effects::HoldMouse};
+    }
+
+    Outcome DrawTo(const PointerEvent& /*position*/) override { return {}; }
+    Outcome EndDrawing(const PointerEvent& /*release*/) override { return {}; }
+    Outcome StartEditing(const PointerEvent& press, int hitLevel) override {
+        return hitLevel == OnOutline ? GrabWhole(press.position) : Outcome{};
+    }
+    /// The spot goes where the mouse is, as far as the view reaches.
+    bool DragPoint(int /*index*/, const PointF& to, const ClientRect& view) override {
+        if (figure.points.empty()) {
+            return false;
+        }
+        figure.points[0] = ClampRelative(figure.points[0], to, view);
+        return true;
+    }
+
+    void Dispose() override {
+        ClearShape();
+        CGestureShape::Dispose();
+    }
+
+    bool TakesStyle() const override { return false; }
+    /// "solid" fills the circle, and stays in force for later configurations that do not name it.
+    void ReadWord(const char* option) override { solid = solid || IsWord(option, "solid"); }
+    Refused Load(Loading& loading) override;
+    /// The radius is not written: it is the host's choice of look, not part of the place.
+    Json::Value WriteGeometry() const override {
+        return figure.points.empty() ? Json::Value() : WritePoints(figure.points, figure.fitted);
+    }
+    CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
+    /// A press beside the spot is answered even while the spot is not selected: it then counts as one that deselects.
+    int LevelAt(const PointF& press) override {
+        if (!Covers(press)) {
+            return Outside;
+        }
+        selected = true;
+        MarkClaimStale();
+        return OnOutline;
+    }
+
+    Claim CompleteClaim() const override {
+        return Claim::Around(figure.points, std::abs(static_cast<float>(radius)) + 1.0F, true);
+    }
+    void Draw(const ShapeLook& look, PaintPass& pass) override;
+
+    bool Covers(const PointF& press) const {
+        const Points& spot = figure.points;
+        if (spot.empty()) {
+            return false;
+        }
+        const double dx = static_cast<double>(press.x) - spot[0].x;
+        const double dy = static_cast<double>(press.y) - spot[0].y;
+        return dx * dx + dy * dy < static_cast<double>(radius) * radius + 1.0; // whole pixels decide
+    }
+
+    void DrawCaption(const ShapeLook& look, IContainerGraphics& surface) const;
+
+    /// Pixels.
+    int radius = 5;
+    bool solid = false;
+};
+
+const bool registered = Register<CSpotShape>("SpotShape");
 
 /// Whole pixels from a place to the border of the view.
 float RoomTo(int border, float place) {
@@ -18,64 +94,6 @@ float RoomTo(int border, float place) {
 }
 
 } // namespace
-
-CSpotShape::CSpotShape() {
-    maxPtNum = 1;
-}
-
-/// A press beside the spot is answered even while the spot is not selected: it then counts as one that deselects.
-int CSpotShape::LevelAt(const PointF& press) {
-    if (!Covers(press)) {
-        return Outside;
-    }
-    selected = true;
-    MarkClaimStale();
-    return OnOutline;
-}
-
-bool CSpotShape::Covers(const PointF& press) const {
-    const Points& spot = figure.points;
-    if (spot.empty()) {
-        return false;
-    }
-    const double dx = static_cast<double>(press.x) - spot[0].x;
-    const double dy = static_cast<double>(press.y) - spot[0].y;
-    return dx * dx + dy * dy < static_cast<double>(radius) * radius + 1.0; // whole pixels decide
-}
-
-Claim CSpotShape::CompleteClaim() const {
-    return Claim::Around(figure.points, std::abs(static_cast<float>(radius)) + 1.0F, true);
-}
-
-/// The click alone places the spot: nothing follows the mouse, and nothing is reported.
-Outcome CSpotShape::StartDrawing(const PointerEvent& press) {
-    if (!AcceptsPoint(press.position, press.view)) {
-        return {};
-    }
-    figure.points.assign(1, press.position);
-    return {Complete, effects::HoldMouse};
-}
-
-Outcome CSpotShape::StartEditing(const PointerEvent& press, int hitLevel) {
-    return hitLevel == OnOutline ? GrabWhole(press.position) : Outcome{};
-}
-
-bool CSpotShape::DragPoint(int /*index*/, const PointF& to, const ClientRect& view) {
-    if (figure.points.empty()) {
-        return false;
-    }
-    figure.points[0] = ClampRelative(figure.points[0], to, view);
-    return true;
-}
-
-void CSpotShape::Dispose() {
-    ClearShape();
-    CGestureShape::Dispose();
-}
-
-void CSpotShape::ReadWord(const char* option) {
-    solid = solid || IsWord(option, "solid");
-}
 
 Refused CSpotShape::Load(Loading& loading) {
     const Json::Value& spots = loading.geometry;
@@ -93,11 +111,6 @@ Refused CSpotShape::Load(Loading& loading) {
     figure.points.push_back(ReadPoint(spots[0], figure.fitted));
     Enter(Complete);
     return std::nullopt;
-}
-
-/// The radius is not written: it is the host's choice of look, not part of the place.
-Json::Value CSpotShape::WriteGeometry(const Points& points, const ViewSize& view) const {
-    return points.empty() ? Json::Value() : WritePoints(points, view);
 }
 
 void CSpotShape::Draw(const ShapeLook& look, PaintPass& pass) {
