@@ -1,5 +1,5 @@
 // Presses on many figures: the figures that are near a press answer it as all of them would.
-#include "support/two_scenes.h"
+#include "two_scenes.h"
 
 #include <cstdlib>
 #include <fuzzer/FuzzedDataProvider.h>

@@ -28,7 +28,7 @@ say "[3/3] counting"
 llvm-profdata merge -sparse "$profiles"/*.profraw -o "$build/merged.profdata"
 llvm-cov export -format=lcov -instr-profile "$build/merged.profdata" \
     "$build/librulecanvas.so" -object "$build/class_tests" -object "$build/cost_tests" -object "$build/torture" \
-    -ignore-filename-regex '/(tests|include|build|fuzz)/|^/usr/' >"$build/branches.lcov"
+    -ignore-filename-regex "^$root/(tests|include|build|fuzz)/|^/usr/" >"$build/branches.lcov"
 
 # Lists each line with a branch that is never taken, and ends with the sums.
 awk -F '[:,]' -v root="$root/" -v wanted="$wanted" '

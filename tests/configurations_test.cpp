@@ -49,12 +49,17 @@ TEST(Configurations, OfARectangle) {
         {"Rect", "", "\xEF\xBB\xBF{\"rule\":[[100,100],[200,200]]}", Refused},
         {"Rect", R"({"ShapeColor":[{"ColorName":{}}]})", "", Refused}, // not convertible
         {"Rect", R"({"mosaic":{"enable":[]}})", "", Refused},
+        {"Rect", R"({"ShapeColor":{"SelColor":{}}})", "", Refused},
+        {"Rect", R"({"ShapeColor":{}})", "", ""},
     });
     ScenarioHost host;
     for (const size_t depth : {99U, 100U, 100000U}) { // the rectangle is one level deeper
         const std::string nested = std::string(depth, '[') + std::string(depth, ']');
         const ShapeID shape = host.Add("Rect", R"({"rule":[[1,1],[90,90]],"x":)" + nested + "}");
         EXPECT_EQ(shape != 0, depth < 100) << depth << ": too deep for the stack of a host";
+        host.container.DeleteAllShapes();
+        host.Add("Rect", R"({"rule":[[0,0],[8191,8191]]})", R"({"LineThickness":5,"x":)" + nested + "}");
+        EXPECT_EQ(host.Paint()[1], depth < 100 ? "rect (0,0)-(800,600) w5 yellow" : "rect (0,0)-(800,600) w2 yellow");
     }
 }
 
@@ -79,6 +84,7 @@ TEST(Configurations, OfLines) {
         {"LineShape", "", R"({"rule":[[1.9,2],[3,4],["x"]]})", "1,2 3,4"},
         {"LineShape", "", "1,2", Refused},
         {"LineShape", "", R"({"rule":[})", Refused},
+        {"LineShape", "", R"({"rule":{"0":[1,1],"1":[2,2]}})", Refused},
         {"LineShape", "", "0,100 100,100", "0,100 8191,100", "StopLine"},
         {"LineShape", "", "200,200 100,100", "0,0 8191,8191", "ForLine"},
         {"LineShape", "", "7,50 7,90", "7,0 7,8191", "BackLine"},
@@ -113,6 +119,7 @@ TEST(Configurations, OfMarkers) {
         {"CrossShape", "", R"({"rule":[]})", R"({"rule":[]})"},
         {"CrossShape", "2", "{}", "0,0 0,0"},
         {"CrossShape", "-5", "{}", "0,0"},
+        {"CrossShape", "0", "{}", "0,0"},
         {"CrossShape", "2000000000", "{}", "0,0"},
         {"CrossShape", "1025", "{}", "0,0"},
         {"CrossShape", "", "{", Refused},
@@ -140,7 +147,7 @@ struct CopyingRule {
 
 void CheckCopying(const Type& type, const CopyingRule& rule) {
     ScenarioHost host(GridView, GridView);
-    host.container.SetVideoSize(640, 480);
+    host.container.SetVideoSize(GridView, GridView);
     const ShapeID shape = host.Add(type.name, type.config);
     host.Paint(); // which places a pixel counter
     const std::string line = host.Config(shape);

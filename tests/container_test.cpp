@@ -1,4 +1,5 @@
 #include "support/scenario_host.h"
+#include "support/types.h"
 
 #include <gtest/gtest.h>
 
@@ -102,8 +103,10 @@ TEST(Exports, ReadBooleansFromTheLowByteAlone) {
     EXPECT_EQ(EnableVideoAnalyseShape(container, shape, 0xABCDEF80U), 1U);
     EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), shape) << "enabling selects";
     EXPECT_EQ(host.Paint().size(), 2U) << "without showing the handles";
+    host.container.ShowHandles(shape);
     EXPECT_EQ(EnableVideoAnalyseShape(container, shape, 0x100U), 1U);
     EXPECT_EQ(GetSelectedVideoAnalyseShapeID(container), 0U);
+    EXPECT_EQ(host.Paint().size(), 2U) << "disabling hides the handles";
     host.Press(150, 150);
     EXPECT_EQ(host.TakeLog(), Lines{}) << "a disabled shape gets no press";
 }
@@ -121,6 +124,10 @@ TEST(Container, DoesNothingUntilItIsEnabled) {
     EXPECT_NE(host.Paint(), Lines{});
 }
 
+uint32_t RULECANVAS_THISCALL KindOfAFunction(const ContainerHandler* /*self*/) {
+    return 0;
+}
+
 TEST(Container, HandsOutHandlersThatCompareEqual) {
     ScenarioHost host;
     const ContainerHandle container = host.container.Handle();
@@ -131,10 +138,17 @@ TEST(Container, HandsOutHandlersThatCompareEqual) {
     EXPECT_EQ(GetContainerDrawEventHandler(container, &draw), 1U);
     const ContainerHandlerTable& table = *mouse.handler->table;
     ContainerHandler* clone = table.clone(mouse.handler);
+    table.destroy(clone, 0); // which frees nothing
     EXPECT_EQ(table.kind(clone), 1U);
     EXPECT_EQ(table.equals(mouse.handler, clone), 1U);
     EXPECT_EQ(table.equals(mouse.handler, draw.handler), 0U);
     EXPECT_EQ(table.equals(mouse.handler, nullptr), 0U);
+    ContainerHandlerTable another = table;
+    another.kind = &KindOfAFunction;
+    ContainerHandler ofTheHost{&another, mouse.handler->target, mouse.handler->method};
+    EXPECT_EQ(table.equals(mouse.handler, &ofTheHost), 0U);
+    ContainerHandler ofAnother{&table, nullptr, mouse.handler->method};
+    EXPECT_EQ(table.equals(mouse.handler, &ofAnother), 0U);
     EXPECT_EQ(table.invoke(clone, 0, 0), 0U) << "no event";
     EXPECT_EQ(draw.handler->table->invoke(draw.handler, TheView, 0), 0U) << "no surface";
     table.destroy(clone, 1);
@@ -217,37 +231,57 @@ TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
     host.rectOfViewZero = ClientRect{0, 0, 400, 300};
     EXPECT_TRUE(host.container.RefitShapes());
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[2048,2730]]})") << "the same place of a smaller view";
+    host.TakeLog();
+    host.Click(60, 60);
+    EXPECT_EQ(host.TakeLog()[0], "select rule") << "and it is found there";
     host.Drag({100, 100}, {900, 700});
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
 }
 
 TEST(Container, CollapsesNoFigureWhileTheViewHasNoSize) {
-    for (const char* type : {"Rect", "LineShape", "XLineShape", "BrokenLine", "SpotShape", "CrossShape"}) {
+    for (const Type& type : Types) {
         ScenarioHost host;
-        const ShapeID shape = host.Add(type, Square);
-        const std::string before = host.Config(shape);
+        host.container.SetVideoSize(GridView, GridView);
+        host.Add(type.name, type.config);
+        host.Paint(); // which places a pixel counter
         host.Press(98, 73);
-        host.Resize(0, 0);
-        host.Move(300, 300);
+        const Lines before = host.Paint();
+        for (const ClientRect& empty :
+             {ClientRect{0, 0, 0, 0}, ClientRect{0, 0, -5, 100}, ClientRect{50, 0, 50, 100}}) {
+            host.clientRect = empty;
+            host.Move(300, 300);
+            host.Paint();
+            host.Resize(800, 600);
+            EXPECT_EQ(host.Paint(), before) << type.name;
+        }
+        host.clientRect = ClientRect{0, -100, 800, 0};
         host.Paint();
         host.Resize(800, 600);
-        EXPECT_EQ(host.Config(shape), before) << type;
+        EXPECT_EQ(host.Paint(), before) << type.name << ": a view above its origin has no place for it";
         host.Move(120, 90);
-        EXPECT_NE(host.Config(shape), before) << type;
+        EXPECT_NE(host.Paint(), before) << type.name;
     }
+    ScenarioHost host(0, 0);
+    EXPECT_EQ(host.Config(host.Add("LineShape", Square)), R"({"rule":[[0,0],[0,0]]})");
 }
 
 TEST(Container, DrawsInTheOrderOfCreation) {
     ScenarioHost host;
-    for (const char* caption : {"1", "2", "3", "4"}) {
-        host.container.SetCaption(host.Add("Rect", Square, "TextOnly"), caption);
+    ShapeID third = 0;
+    for (const char* caption : {"1", "2", "3", "4", "5"}) {
+        const ShapeID shape = host.Add("Rect", Square, "TextOnly");
+        third = *caption == '3' ? shape : third;
+        host.container.SetCaption(shape, caption);
     }
+    host.container.DeleteShape(third); // which leaves a hole in the list
+    host.TakeLog();
     std::string drawn;
     for (const std::string& call : host.Paint()) {
         drawn += call.substr(call.find('"') + 1, 1);
     }
-    EXPECT_EQ(drawn, "1234");
-    host.container.IgnoreNotifications();
+    EXPECT_EQ(drawn, "1245");
+    const CDelegate half{&host, nullptr};
+    SetContainerNotifyEventDelegate(host.container.Handle(), &half);
     host.Drag({150, 150}, {160, 160});
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture off"}));
 }

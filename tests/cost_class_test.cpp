@@ -1,8 +1,7 @@
 // What a paint and a step of a drag may cost: questions to the host, locks and memory.
 
-#include "container/container.h"
 #include "rulecanvas/surface.hpp"
-#include "support/types.h"
+#include "support/grid_scene.h"
 
 #include <gtest/gtest.h>
 
@@ -51,42 +50,30 @@ struct Counts {
     size_t allocations = 0;
 };
 
-class Scene {
-  public:
-    explicit Scene(const char* type, const char* config) {
-        container.SetClientRectDelegate(CDelegate{this, reinterpret_cast<void*>(&ReportRect)});
-        container.Enable(true);
-        container.SetPixelCount(640, 480);
+/// A hundred figures alike.
+struct Scene : test::GridScene {
+    Scene(const char* type, const char* config) {
         for (size_t i = 0; i < FigureCount; ++i) {
-            last = container.CreateMainShape(0, "", type, "rule", config, "");
+            Add(type, config);
         }
     }
-    ~Scene() { container.Close(); }
 
     template <class Call>
     Counts CostOf(Call call) {
         const Counts before{questions, locks, allocations};
-        call(container);
+        call();
         return {questions - before.questions, locks - before.locks, allocations - before.allocations};
     }
-
-    CVideoAnalyseContainer container{nullptr};
-    ShapeID last = 0;
-
-  private:
-    static void RULECANVAS_THISCALL ReportRect(void* self, ViewID /*view*/, ClientRect* out) {
-        ++static_cast<Scene*>(self)->questions;
-        *out = ClientRect{0, 0, test::GridView, test::GridView};
+    Counts CostOfSending(uint32_t code, const PointF& at) {
+        return CostOf([&] { Send(code, at); });
     }
-
-    size_t questions = 0;
 };
 
 TEST(Cost, OfAPaintIsOneQuestionOneLockAFigureAndNoMemory) {
     for (const test::Type& type : test::Types) {
         Scene scene(type.name, type.config);
         Surface surface;
-        const auto paint = [&](CVideoAnalyseContainer& container) { container.OnDraw(0, surface); };
+        const auto paint = [&] { scene.container.OnDraw(0, surface); };
         scene.CostOf(paint);
         const Counts cost = scene.CostOf(paint);
         EXPECT_EQ(cost.questions, 1U) << type.name;
@@ -101,31 +88,24 @@ TEST(Cost, OfADragStepIsOneQuestionTwoLocksAndNoMemory) {
         Scene scene(type.name, type.config);
         Surface surface;
         scene.container.OnDraw(0, surface);
-        const auto send = [&](uint32_t code, float x, float y) {
-            return scene.CostOf([&](CVideoAnalyseContainer& container) {
-                container.OnMouseEvent({code, 0, 0, x, y, 0, 0});
-            });
-        };
         for (const float grab : {1000.0F, 1500.0F}) { // a corner or the point, and the line or the inside
-            send(RULECANVAS_MOUSE_LEFT_DOWN, grab, grab);
-            send(RULECANVAS_MOUSE_MOVED, grab + 1, grab);
-            const Counts cost = send(RULECANVAS_MOUSE_MOVED, grab + 2, grab + 1);
+            scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, {grab, grab});
+            scene.Send(RULECANVAS_MOUSE_MOVED, {grab + 1, grab});
+            const Counts cost = scene.CostOfSending(RULECANVAS_MOUSE_MOVED, {grab + 2, grab + 1});
             EXPECT_LE(cost.questions, 1U) << type.name;
             EXPECT_LE(cost.locks, 2U) << type.name;
             EXPECT_EQ(cost.allocations, 0U) << type.name;
-            EXPECT_LE(send(RULECANVAS_MOUSE_LEFT_UP, grab, grab).questions, 1U) << type.name;
+            EXPECT_LE(scene.CostOfSending(RULECANVAS_MOUSE_LEFT_UP, {grab, grab}).questions, 1U) << type.name;
         }
     }
 }
 
 TEST(Cost, OfAPressIsNoLockForFiguresItCannotHit) {
     Scene scene("Polygon", R"({"rule":[[100,100],[200,100],[200,200]]})");
-    const auto press = [&](CVideoAnalyseContainer& container) {
-        container.OnMouseEvent({RULECANVAS_MOUSE_LEFT_DOWN, 0, 0, 5000, 5000, 0, 0});
-    };
-    scene.CostOf(press); // deselects them all
-    scene.CostOf(press);
-    const Counts cost = scene.CostOf(press);
+    const PointF beside{5000, 5000};
+    scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, beside); // deselects them all
+    scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, beside);
+    const Counts cost = scene.CostOfSending(RULECANVAS_MOUSE_LEFT_DOWN, beside);
     EXPECT_LE(cost.locks, 2U) << "the first one alone answers that the press lies outside";
     EXPECT_EQ(cost.questions, 1U);
 }

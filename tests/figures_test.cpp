@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace rulecanvas::test {
 namespace {
@@ -31,6 +32,19 @@ TEST(Cross, IsPlacedByOneClickEach) {
     EXPECT_EQ(host.Config(shape), R"({"rule":[[110,-19],[200,100],[300,100]]})");
     host.container.SetPointLimits(shape, 2, 0);
     EXPECT_EQ(host.Config(shape), "") << "not as many as the host now wants";
+}
+
+TEST(Cross, ThatIsLetGoNowhereLiesAtTheBorder) {
+    using Places = std::pair<PointF, PointF>;
+    for (const auto& [release, press] : {Places{{NAN, 300}, {0, 300}}, Places{{300, NAN}, {300, 0}}}) {
+        ScenarioHost host(GridView, GridView);
+        const ShapeID shape = host.Add("CrossShape", "", "2");
+        host.Click(100, 100);
+        host.Press(200, 200);
+        host.Release(release.x, release.y);
+        host.Drag(press, {400, 400});
+        EXPECT_EQ(host.Config(shape), Rule("100,100 400,400"));
+    }
 }
 
 TEST(BigCross, SpansThePictureAtTwoPlacesAndIsWrittenAsBands) {
@@ -231,12 +245,14 @@ TEST(PixelCount, IsPlacedInTheMiddleByTheFirstPaint) {
 }
 
 TEST(PixelCount, WaitsUntilVideoAndViewAreKnownAndKeepsTheSizeOfTheVideo) {
+    using Sizes = std::array<int, 3>; // of the video, of the view at first and of the view at the first paint
     ScenarioHost host;
-    for (const bool videoFirst : {true, false}) {
+    for (const auto& [video, atFirst, atPaint] : {Sizes{480, 0, 0}, Sizes{0, 800, 800}, Sizes{480, 800, 0}}) {
         host.container.DeleteAllShapes();
-        host.container.SetVideoSize(640, videoFirst ? 480 : 0);
-        host.Resize(videoFirst ? 0 : 800, 600);
+        host.container.SetVideoSize(640, video);
+        host.Resize(atFirst, 600);
         host.container.ShowHandles(host.Add("PixelCountShape", R"({"rule":[320,240]})"), false);
+        host.Resize(atPaint, 600);
         EXPECT_EQ(host.Paint(), Lines{});
         host.container.SetVideoSize(640, 480);
         host.Resize(800, 600);

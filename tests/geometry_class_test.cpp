@@ -1,13 +1,20 @@
 // Geometry, and the few things that no export reaches.
 
 #include "geometry/arrows.h"
+#include "geometry/grid.h"
 #include "geometry/hit_tests.h"
 #include "geometry/rectangles.h"
+#include "geometry/segments.h"
+#include "platform/trace.h"
 #include "shape/shape_factory.h"
+#include "support/grid_scene.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <cstring>
 
 namespace rulecanvas {
 namespace {
@@ -18,6 +25,8 @@ TEST(Geometry, TruncatesTowardZeroAndSaturates) {
         EXPECT_EQ(TruncateToInt(value), expected);
     }
     EXPECT_EQ(Span(INT32_MIN, INT32_MAX), INT32_MAX);
+    EXPECT_EQ(ToGrid({5, 5}, {0, 0}).x, 0) << "of a view without a size";
+    EXPECT_EQ(ToGrid({1, 1}, {1, 1}).x, GridSpan);
 }
 
 TEST(Geometry, HasTheTolerancesOfTheEditor) {
@@ -61,6 +70,81 @@ TEST(Geometry, CrossesASegmentWithItsDirectionMarkUpperEndFirst) {
     EXPECT_GT(std::min(up.first.y, up.second.y), 18) << "a vertical arrow has two barbs too, behind its tip";
     EXPECT_LT(std::min(up.first.x, up.second.x), 6);
     EXPECT_GT(std::max(up.first.x, up.second.x), 14);
+}
+
+TEST(Geometry, SegmentsMeetWhenTheyCrossOrTouch) {
+    struct Case {
+        PointF a, b;
+        bool meet;
+    };
+    for (const Case& c : {Case{{-5, 5}, {5, 5}, true}, Case{{-5, 5}, {0, 5}, true}, Case{{-5, 5}, {-1, 5}, false},
+                          Case{{-5, 11}, {5, 11}, false}, Case{{0, 10}, {0, 20}, true}, Case{{0, 11}, {0, 20}, false},
+                          Case{{0, -9}, {0, -1}, false}, Case{{0, 3}, {0, 4}, true}, Case{{1, 0}, {1, 10}, false}}) {
+        for (const bool mirrored : {false, true}) {
+            const auto at = [&](const PointF& p) { return mirrored ? PointF{p.y, p.x} : p; };
+            EXPECT_EQ(SegmentsCross(at({0, 0}), at({0, 10}), at(c.a), at(c.b)), c.meet) << c.a.x << "," << c.a.y;
+            EXPECT_EQ(SegmentsCross(at(c.b), at(c.a), at({0, 10}), at({0, 0})), c.meet) << c.a.x << "," << c.a.y;
+        }
+    }
+    EXPECT_FALSE(LastEdgeCrosses({}) || ClosingEdgeCrosses({}));
+}
+
+TEST(Geometry, LinesMeetUnlessTheyAreParallel) {
+    EXPECT_EQ(LineIntersection({0, 0}, {4, 2}, {0, 5}, {2, 4}), (PointF{5, 2.5F}));
+    EXPECT_EQ(LineIntersection({1, 7}, {2, 7}, {4, 3}, {4, 9}), (PointF{4, 7}));
+    EXPECT_EQ(LineIntersection({0, 0}, {4, 2}, {9, 9}, {13, 11}), std::nullopt);
+}
+
+TEST(Geometry, TheInsideOfARingDoesNotDependOnItsBeginning) {
+    Points ring{{0, 0}, {60, 0}, {60, 60}, {30, 20}, {0, 60}};
+    for (int direction = 0; direction < 2; ++direction) {
+        for (size_t turn = 0; turn < ring.size(); ++turn) {
+            for (const PointF& in : {PointF{10, 10}, {50, 10}, {5, 45}, {55, 45}, {30, 19}}) {
+                EXPECT_TRUE(InPolygon(ring, in)) << in.x << "," << in.y << " in turn " << turn;
+            }
+            for (const PointF& out : {PointF{-1, 20}, {61, 20}, {30, 40}, {-1, 0}, {61, 0}, {44, 40}, {16, 40}}) {
+                EXPECT_FALSE(InPolygon(ring, out)) << out.x << "," << out.y << " in turn " << turn;
+            }
+            EXPECT_TRUE(InPolygon(ring, {0, 30})) << "a left edge is inside, a right one is not";
+            EXPECT_FALSE(InPolygon(ring, {60, 30}));
+            std::rotate(ring.begin(), ring.begin() + 1, ring.end());
+        }
+        std::reverse(ring.begin(), ring.end());
+    }
+}
+
+TEST(Geometry, KnowsWhichShiftsRound) {
+    EXPECT_TRUE(ShiftsExactly({{4000, 1}}, 0.5F, -1));
+    for (const PointF& by : {PointF{1e-30F, 0}, PointF{0, 1e-30F}, PointF{0.1F, 0}, PointF{0, 0.1F}}) {
+        EXPECT_FALSE(ShiftsExactly({{4000, 4000}}, by.x, by.y));
+    }
+}
+
+TEST(Trace, TellsWhatWasFoundInsteadAndWhere) {
+    static std::string told;
+    SetTraceSink([](const char* line) { told = line; });
+    test::GridScene scene;
+    struct Case {
+        const char* type;
+        const char* config;
+        const char* ending;
+    };
+    for (const Case& c :
+         {Case{"Rect", R"({"rule":"x"})", "expected an array of 2 corners, found a text, at $.rule"},
+          Case{"Rect", R"({"rule":true})", "found a boolean, at $.rule"},
+          Case{"Rect", R"({"rule":5})", "found a number, at $.rule"}, Case{"Rect", "{}", "found nothing, at $.rule"},
+          Case{"Rect", R"({"rule":[[1,1]]})", "found an array of 1 element, at $.rule"},
+          Case{"OvalShape", R"({"OvalShape":{"a":1,"b":2}})", "found an object of 2 elements, at $.OvalShape"},
+          Case{"Circle", "", "\"rule\": expected a registered type, found \"Circle\", at type"}}) {
+        EXPECT_EQ(scene.Add(c.type, c.config), 0U);
+        EXPECT_EQ(told.substr(told.size() - std::min(told.size(), std::strlen(c.ending))), c.ending);
+    }
+    told.clear();
+    scene.Add("Rect");
+    EXPECT_EQ(told, "") << "nothing was refused";
+    SetTraceSink(nullptr);
+    const char* const wanted = std::getenv("RULECANVAS_TRACE");
+    EXPECT_EQ(IsTracing(), wanted != nullptr && std::strcmp(wanted, "1") == 0);
 }
 
 TEST(Factory, KeepsTheFirstRegistrationOfAName) {

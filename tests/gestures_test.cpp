@@ -50,6 +50,8 @@ TEST(Gestures, OnLines) {
         drag("VerticalLineShape", "", "drag 200 100 250 60", "100,100 100,60"),
         drag("HorizontalLineShape", "", "drag 97 103 50 60", "50,100 200,100"),
         drag("XLineShape", "", "drag 200 100 8192 60", Level),
+        {"LineShape", "Horizon", "", "drag 100 100 200 150", "on redraw 2>3 off", Level},
+        {"LineShape", "MovedHLine", "", "drag 100 100 200 150", "on redraw 2>3 off", Level},
     });
     for (const char* type : {"LineShape", "ArrowLineShape"}) {
         Check({
@@ -118,6 +120,9 @@ TEST(Gestures, OnPathsThatAreDrawn) {
         {"Polygon", "", "",
          "click 0 10 click 100 10 click 50 10.000002 press 0 50 press 10 20 move 10 4020 release 0 0",
          "on on on on 2>3 off select on 4>3 off", "0,10 100,10 50,10 0,50"},
+        {"Polygon", "", "",
+         "click 10 0 click 10 100 click 10.000002 50 click 50 0 press 20 10 move 4020 10 release 0 0",
+         "on on on on 2>3 off select on 4>3 off", "10,0 10,100 10,50 50,0"},
         // What has a configuration of another rule is drawn; a single point is no broken line, but complete.
         {"Polygon", "", R"({"other":[[1,1]]})", "press 9 9", "on", ""},
         {"BrokenLine", "", "1,1", "press 9 9", "", ""},
@@ -154,6 +159,13 @@ TEST(Gestures, OnCompletePaths) {
         {"Polygon", "", Square, "press 150 150 move 130 140 move 20 130 move 129 150 release 9 9", Moved,
          "79,100 179,100 179,200 79,200"},
         {"Polygon", "", Square, "right 150 150 right 200 150", "", Square},
+        // Steps by fractions of a pixel; what was crossed or concave from the beginning may move as it is.
+        {"Polygon", "", "0,0 300,0 300,300 0,300", "press 1.1 150 move 8100 150 move 160 150 release 9 9", Moved,
+         "158,0 458,0 458,300 158,300"},
+        {"Polygon", "", "100,100 200,200 200,100 100,200", "press 110.1 150 move 120 150 release 9 9", Moved,
+         "109,100 209,200 209,100 109,200"},
+        {"Polygon", "Convex", "100,100 200,100 150,120 100,200", "press 110.1 110 move 120 110 release 9 9", Moved,
+         "109,100 209,100 159,120 109,200"},
         // A corner at the height of the press lies to the right of it, then to the left, then to both sides.
         {"Polygon", "", "100,100 200,150 100,200", "press 90 150", "", "100,100 200,150 100,200"},
         {"Polygon", "", "100,150 200,100 200,200", "press 210 150", "", "100,150 200,100 200,200"},

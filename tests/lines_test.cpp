@@ -193,6 +193,10 @@ TEST(ArrowLine, PutsItsHeadWhereTheDirectionSays) {
         }
         EXPECT_EQ(seen, heads) << path;
     }
+    ScenarioHost begun(GridView, GridView);
+    begun.Add("ArrowLineShape", "", R"({"Direction":5})");
+    Act(begun, "press 10 10 move 90 10");
+    EXPECT_EQ(begun.Paint(), Lines{"line (10,10)-(90,10) w2 yellow"}) << "no head before there is a segment";
     ScenarioHost host(GridView, GridView);
     host.container.ShowHandles(host.Add("ArrowLineShape", Level, R"({"LineThickness":3,"Direction":5})"), false);
     EXPECT_EQ(host.Paint(), (Lines{"line (100,100)-(200,100) w3 yellow", "line (200,100)-(191.34,105) w3 yellow",

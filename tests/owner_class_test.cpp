@@ -1,24 +1,19 @@
 // What a figure that owns another one may do with it, and no host can.
 
-#include "container/container.h"
 #include "rulecanvas/surface.hpp"
 #include "shape/paint_pass.h"
 #include "shape/shape_factory.h"
 #include "shapes/lines/line_shape.h"
 #include "shapes/paths/click_path_shape.h"
 #include "shapes/regions/rectangle_shape.h"
+#include "support/grid_scene.h"
 
 #include <gtest/gtest.h>
 
 namespace rulecanvas {
 namespace {
 
-constexpr ViewID OwnersView = 1;
-constexpr ClientRect GridRect{0, 0, 8191, 8191}; // pixels and grid are the same number
-
-void RULECANVAS_THISCALL ReportClientRect(void* /*target*/, ViewID /*view*/, ClientRect* out) {
-    *out = GridRect;
-}
+using test::GridRect;
 
 void RULECANVAS_THISCALL CountNotification(void* target, const char* /*text*/, Bool32 /*flag*/) {
     ++*static_cast<int*>(target);
@@ -26,19 +21,16 @@ void RULECANVAS_THISCALL CountNotification(void* target, const char* /*text*/, B
 
 /// A shape in a view, but not among the shapes of the view's container.
 template <class Shape = CVideoAnalyseShape>
-struct Owned {
-    CVideoAnalyseContainer container{nullptr};
+struct Owned : test::GridScene {
     std::shared_ptr<Shape> shape;
     int notifications = 0;
 
     explicit Owned(const char* type)
         : Owned(std::static_pointer_cast<Shape>(CShapeFactory::GetInstance().CreateShape(type))) {}
     explicit Owned(std::shared_ptr<Shape> made) : shape(std::move(made)) {
-        container.SetClientRectDelegate(CDelegate{this, reinterpret_cast<void*>(&ReportClientRect)});
         container.SetNotifyDelegate(CDelegate{&notifications, reinterpret_cast<void*>(&CountNotification)});
-        container.Enable(true);
         shape->SetContainer(&container);
-        shape->SetViewId(OwnersView, GridRect);
+        shape->SetViewId(0, GridRect);
     }
     ~Owned() { shape->Retire(); }
 
@@ -53,11 +45,9 @@ struct Owned {
     }
 
     void Press(const PointF& at, int level) {
-        const ContainerMouseEvent event{RULECANVAS_MOUSE_LEFT_DOWN, OwnersView, 0, at.x, at.y, 0, 0};
+        const ContainerMouseEvent event{RULECANVAS_MOUSE_LEFT_DOWN, 0, 0, at.x, at.y, 0, 0};
         shape->HandleLButtonDownEvent(PointerEvent{event, GridRect}, level);
     }
-
-    void Send(uint32_t code, const PointF& at) { container.OnMouseEvent({code, OwnersView, 0, at.x, at.y, 0, 0}); }
 
     int StateAfterStroke(const PointF& from, const PointF& to) {
         shape->RestartDrawing();
@@ -75,15 +65,21 @@ TEST(OwnedLine, CopiesItsKindAndNamesButNoPoints) {
     EXPECT_EQ(copy.shape->GetName() + copy.shape->GetEventName(), "nameevent");
     EXPECT_EQ(copy.StateAfterStroke({10, 10}, {50, 90}), Drawing) << "level and upright at once: never long enough";
     copy.shape->SetShapePoints({{10, 10}, {10, 90}});
+    copy.shape->SetShapePoints({{1, 1}}); // not a line's number of points
     EXPECT_TRUE(copy.shape->MoveShape(5, 7));
     EXPECT_EQ(copy.PointsNow(), (Points{{10, 17}, {10, 97}})) << "its own points, up and down only";
+    Owned<CLineShape> unnamed("LineShape");
+    Owned<CLineShape> ofUnnamed(std::make_shared<CLineShape>(*unnamed.shape));
+    EXPECT_EQ(ofUnnamed.StateAfterStroke({10, 10}, {50, 90}), Waiting) << "no event name either, so it is limited";
 }
 
 TEST(OwnedLine, WithoutAnEventNameIsDrawnInsideItsLimitAreaOnly) {
     Owned<> area("XLineShape");
     area.Configure("u", R"({"u":[[30,90],[0,90],[0,0],[90,0],[90,90],[60,90],[60,30],[30,30]]})");
     Owned<CLineShape> limited("LineShape");
-    EXPECT_EQ(limited.StateAfterStroke({10, 10}, {80, 10}), Waiting) << "no area, nothing inside";
+    EXPECT_FALSE(limited.shape->SetLimitArea(nullptr));
+    EXPECT_TRUE(limited.shape->SetLimitArea(Owned<>("XLineShape").shape.get()));
+    EXPECT_EQ(limited.StateAfterStroke({10, 10}, {80, 10}), Waiting) << "an empty area, nothing inside";
     EXPECT_TRUE(limited.shape->SetLimitArea(area.shape.get()));
     EXPECT_EQ(limited.StateAfterStroke({10, 10}, {45, 60}), Waiting) << "ends outside";
     EXPECT_EQ(limited.StateAfterStroke({45, 80}, {10, 80}), Waiting) << "comes in over the closing edge";
@@ -91,45 +87,82 @@ TEST(OwnedLine, WithoutAnEventNameIsDrawnInsideItsLimitAreaOnly) {
 }
 
 TEST(OwnedLine, IsClippedToAPolygon) {
-    const auto clipped = [](const Points& points, const char* key = "area", int mode = 0) {
+    const char* const square = R"({"area":[[100,100],[200,100],[200,200],[100,200]]})";
+    const auto clipped = [&](const Points& points, const char* key, int mode, const char* text) {
         Owned<CLineShape> owned("LineShape");
         owned.shape->SetShapePoints(points);
-        const char* square = R"({"area":[[100,100],[200,100],[200,200],[100,200]]})";
-        const bool done = owned.shape->ClipToPolygon(square, key, mode);
+        owned.shape->SetViewId(0, {}); // the view's size is learnt when it is needed
+        const bool done = owned.shape->ClipToPolygon(text, key, mode);
         EXPECT_EQ(done, owned.PointsNow() != points);
         return owned.PointsNow();
     };
     const Points inside{{120, 150}, {130, 150}};
-    EXPECT_EQ(clipped(inside), (Points{{200, 150}, {100, 150}}));
-    EXPECT_EQ(clipped(inside, "area", 1), inside);
-    EXPECT_EQ(clipped(inside, "other"), inside);
-    EXPECT_EQ(clipped({{0, 0}, {50, 50}}), (Points{{100, 100}, {200, 200}})) << "from corner to corner";
-    EXPECT_EQ(clipped({{0, 200}, {200, 0}}), (Points{{0, 200}, {200, 0}})) << "one corner is not enough";
+    EXPECT_EQ(clipped(inside, "area", 0, square), (Points{{200, 150}, {100, 150}}));
+    EXPECT_EQ(clipped(inside, "area", 1, square), inside);
+    for (const char* key : {"other", "", static_cast<const char*>(nullptr)}) {
+        EXPECT_EQ(clipped(inside, key, 0, square), inside);
+    }
+    for (const char* text : {"", "{", R"({"area":[[100,100],[200,100],[200,200],[100]]})"}) {
+        EXPECT_EQ(clipped(inside, "area", 0, text), inside) << text;
+    }
+    EXPECT_EQ(clipped({}, "area", 0, square), Points{}) << "not drawn yet";
+    EXPECT_EQ(clipped({{0, 0}, {50, 50}}, "area", 0, square), (Points{{100, 100}, {200, 200}})) << "corner to corner";
+    const Points touching{{0, 200}, {200, 0}};
+    EXPECT_EQ(clipped(touching, "area", 0, square), touching) << "one corner is not enough";
 }
 
+/// An owner that allows a path up to some number of points, and none that begins too far to the right.
+struct Judge {
+    size_t longest = 0;
+    bool Decide(const Points& path, bool /*complete*/) { return path.size() <= longest; }
+    bool Check(const Points& path) { return path[0].x < 50; }
+
+    void SitOver(OwnerHooks& hooks) {
+        hooks.ValidationHook = decltype(hooks.ValidationHook)::Bind<&Judge::Decide>(this);
+    }
+};
+
 TEST(OwnedArrow, AsksItsOwnerBeforeItChanges) {
-    struct Owner {
-        bool content = false;
-        bool Decide(const Points& path, bool /*complete*/) { return content || path.size() == 1; }
-        bool Check(const Points& path) { return path[0].x < 50; }
-    } owner;
+    Judge owner;
     Owned<> arrow("ArrowLineShape");
-    OwnerHooks& hooks = arrow.shape->Hooks();
-    hooks.ValidationHook = decltype(hooks.ValidationHook)::Bind<&Owner::Decide>(&owner);
-    hooks.GeometryCheckHook = decltype(hooks.GeometryCheckHook)::Bind<&Owner::Check>(&owner);
-    EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Waiting) << "refused: to be drawn again";
-    owner.content = true;
+    owner.SitOver(arrow.shape->Hooks());
+    EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Waiting) << "the first point is refused";
+    EXPECT_EQ(arrow.PointsNow(), Points{});
+    owner.longest = 1;
+    EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Waiting) << "the second one: to be drawn again";
+    owner.longest = 2;
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Complete);
     const Points drawn = arrow.PointsNow();
     Points dragged;
+    EXPECT_TRUE(arrow.shape->BuildDragPoints(0, {60, 20}, dragged));
+    OwnerHooks& hooks = arrow.shape->Hooks();
+    hooks.GeometryCheckHook = decltype(hooks.GeometryCheckHook)::Bind<&Judge::Check>(&owner);
     EXPECT_TRUE(arrow.shape->BuildDragPoints(0, {20, 20}, dragged));
     EXPECT_EQ(dragged, (Points{{20, 20}, {90, 10}}));
     EXPECT_FALSE(arrow.shape->BuildDragPoints(0, {60, 20}, dragged)) << "the geometry is checked, too";
+    EXPECT_FALSE(arrow.shape->BuildDragPoints(0, {20, -20}, dragged)) << "and it stays in the view";
     EXPECT_FALSE(arrow.shape->MoveShape(50, 0));
-    owner.content = false;
+    owner.longest = 0;
     EXPECT_FALSE(arrow.shape->BuildDragPoints(0, {20, 20}, dragged));
     EXPECT_FALSE(arrow.shape->MoveShape(1, 1));
     EXPECT_EQ(arrow.PointsNow(), drawn);
+}
+
+TEST(OwnedArrow, IsFinishedByTheRightButtonWithItsOwnersConsent) {
+    Judge owner{2};
+    Owned<> arrow("ArrowLineShape");
+    arrow.Configure("rule", "", R"({"XArrowLine":true})");
+    owner.SitOver(arrow.shape->Hooks());
+    EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Drawing);
+    const auto stateAfterRightPress = [&](int level) {
+        arrow.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, level);
+        return arrow.shape->GetState();
+    };
+    EXPECT_EQ(stateAfterRightPress(OnOutline), Drawing);
+    owner.longest = 1;
+    EXPECT_EQ(stateAfterRightPress(Busy), Drawing);
+    owner.longest = 2;
+    EXPECT_EQ(stateAfterRightPress(Busy), Complete);
 }
 
 TEST(OwnedShape, LetsItsOwnerHearAndPlaceInsteadOfTheHost) {
@@ -170,6 +203,8 @@ TEST(OwnedRectangle, IsPlacedByItsOwner) {
     PointF press{};
     EXPECT_TRUE(rectangle.GetPressPoint(press));
     EXPECT_EQ(press, (PointF{96, 96})) << "the anchor of the latest placing";
+    rectangle.SetShapePoints({{1, 2}, {3, 2}, {3, 4}, {1, 4}});
+    EXPECT_EQ(owned.PointsNow()[2], (PointF{3, 4}));
     rectangle.SetShapeDirection(0, 4);
     EXPECT_EQ(rectangle.GetShapeDirection(), 4);
 }
@@ -183,13 +218,15 @@ TEST(OwnedRectangle, MustCoverItsCropLimit) {
         ShapeState during;
     };
     for (const Case& c :
-         {Case{{150, 150}, {139, 150}, {145, 150}, Adjusting}, Case{{100, 100}, {111, 100}, {105, 95}, Moving}}) {
+         {Case{{150, 150}, {139, 150}, {145, 150}, Adjusting}, Case{{150, 150}, {150, 139}, {150, 145}, Adjusting},
+          Case{{50, 50}, {55, 61}, {50, 55}, Adjusting}, Case{{100, 100}, {111, 100}, {105, 95}, Moving}}) {
         owned.Press(c.press, Inside);
         owned.Send(RULECANVAS_MOUSE_LEFT_UP, c.refused);
         EXPECT_EQ(owned.shape->GetState(), c.during) << "the drag goes on";
         owned.Send(RULECANVAS_MOUSE_LEFT_UP, c.accepted);
         EXPECT_EQ(owned.shape->GetState(), Complete);
     }
+    EXPECT_EQ(owned.StateAfterStroke({50, 50}, {139, 150}), Drawing);
 }
 
 /// A polygon's move is judged by its vertices, shifted back by what the release lies beyond the last move.
@@ -203,16 +240,29 @@ void CheckLimit(const char* type, const PointF& press, const PointF& move, const
     const int dragged = owned.shape->GetState();
     EXPECT_GT(dragged, Complete);
     owned.Send(RULECANVAS_MOUSE_LEFT_UP, refused);
-    owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, OwnersView, 0, 9, 9, 0, 0}, OnOutline);
+    owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, OnOutline);
     EXPECT_EQ(owned.shape->GetState(), dragged);
     owned.Send(RULECANVAS_MOUSE_LEFT_UP, accepted);
     EXPECT_EQ(owned.shape->GetState(), Complete);
+    owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, OnOutline);
+    EXPECT_EQ(owned.shape->GetState(), Deleted) << "at rest the limit is none";
 }
 
 TEST(OwnedPath, EndsADragInsideItsLimitRectangleOnly) {
     CheckLimit("Polygon", {200, 200}, {250, 250}, {301, 250}, {300, 250});
     CheckLimit("Polygon", {180, 120}, {280, 220}, {279, 219}, {281, 221});
     CheckLimit("BrokenLine", {200, 200}, {250, 250}, {99, 250}, {100, 250});
+}
+
+TEST(OwnedPath, GrowsWithItsOwnersConsent) {
+    Judge owner{2};
+    Owned<> polygon("Polygon");
+    polygon.Configure("rule", "");
+    owner.SitOver(polygon.shape->Hooks());
+    for (const PointF& corner : {PointF{10, 10}, PointF{90, 10}, PointF{90, 90}}) {
+        polygon.Press(corner, Busy);
+    }
+    EXPECT_EQ(polygon.PointsNow(), (Points{{10, 10}, {90, 10}}));
 }
 
 TEST(OwnedPath, TellsItsOwnerWhereTheRightButtonRests) {
@@ -224,24 +274,70 @@ TEST(OwnedPath, TellsItsOwnerWhereTheRightButtonRests) {
     line.shape->Hooks().CursorHook = decltype(OwnerHooks::CursorHook)::Bind<&Owner::Hear>(&owner);
     line.Configure("rule", R"({"rule":[[100,100],[200,100],[200,200]]})");
     int level = Miss;
-    line.shape->HitTestRButtonDown({RULECANVAS_MOUSE_RIGHT_DOWN, OwnersView, 0, 500, 9, 0, 0}, level);
+    line.shape->HitTestRButtonDown({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 500, 9, 0, 0}, level);
     EXPECT_EQ(owner.heard, 1);
     EXPECT_LE(line.shape->GetClaim().left, 0) << "everywhere";
 }
 
-TEST(OwnedSpot, StaysSolidWhenItIsConfiguredAgain) {
-    struct : Surface {
-        int filled = 0;
-        void PaintEllipse(const PointF&, const PointF&, float, const ColorF&, const ColorF&) override { ++filled; }
-    } surface;
-    Owned<> spot("SpotShape");
+struct CountingSurface : Surface {
+    int discs = 0;
+    int outlines = 0;
+    void PaintEllipse(const PointF&, const PointF&, float, const ColorF&, const ColorF&) override { ++discs; }
+    void StrokeRectangle(const PointF&, const PointF&, float, const ColorF&, int32_t) override { ++outlines; }
+};
+
+CountingSurface Painted(Owned<>& owned) {
+    CountingSurface surface;
     ShapeLook look;
-    PaintPass pass(spot.container, OwnersView, surface, GridRect, look);
-    for (const char* word : {"", "solid", "outline", ""}) {
-        ASSERT_TRUE(spot.Configure("rule", R"({"rule":[[1,1]]})", word));
-        spot.shape->OnDraw(pass);
+    PaintPass pass(owned.container, 0, surface, GridRect, look);
+    owned.shape->OnDraw(pass);
+    return surface;
+}
+
+TEST(OwnedShape, RemembersItsModeWordsWhenItIsConfiguredAgain) {
+    struct Case {
+        const char* type;
+        const char* word;
+        bool (*remembers)(Owned<>& owned);
+    };
+    const auto goesByTheRightButton = [](Owned<>& owned) {
+        owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, OnOutline);
+        return owned.shape->GetState() == Deleted;
+    };
+    const auto staysConvex = [](Owned<>& owned) {
+        Points dragged;
+        owned.shape->SetShapePoints({{100, 100}, {200, 100}, {200, 200}, {100, 200}});
+        return !owned.shape->BuildDragPoints(0, {180, 160}, dragged);
+    };
+    const auto isUprightBound = [](Owned<>& owned) {
+        return owned.shape->MoveShape(5, 7) && owned.PointsNow()[0] == PointF{100, 107};
+    };
+    for (const Case& c :
+         {Case{"SpotShape", "solid", [](Owned<>& owned) { return Painted(owned).discs == 1; }},
+          Case{"Rect", "TextOnly", [](Owned<>& owned) { return Painted(owned).outlines == 0; }},
+          Case{"Rect", "EnableRBtnDelete", goesByTheRightButton},
+          Case{"Polygon", "EnableRBtnDelete", goesByTheRightButton}, Case{"Polygon", "Convex", staysConvex},
+          Case{"LineShape", "Horizon", isUprightBound}, Case{"LineShape", "MovedHLine", isUprightBound}}) {
+        Owned<> owned(c.type);
+        for (const char* option : {"", c.word, "another", ""}) {
+            ASSERT_TRUE(owned.Configure("rule", R"({"rule":[[100,100],[200,200]]})", option));
+        }
+        EXPECT_TRUE(c.remembers(owned)) << c.type << " " << c.word;
     }
-    EXPECT_EQ(surface.filled, 3);
+}
+
+TEST(OwnedShape, WithoutAContainerTellsNobody) {
+    const ShapePtr rectangle = CShapeFactory::GetInstance().CreateShape("Rect");
+    EXPECT_FALSE(rectangle->SetVideoAnalyseShapeData({"rule", R"({"rule":[[1,1],[90,90]]})", "", GridRect}));
+    EXPECT_EQ(rectangle->GetState(), Complete);
+    Points dragged;
+    EXPECT_FALSE(rectangle->BuildDragPoints(0, {20, 20}, dragged)) << "there is no view to stay in";
+    const ShapePtr line = CShapeFactory::GetInstance().CreateShape("LineShape");
+    EXPECT_FALSE(line->SetVideoAnalyseShapeData({"rule", R"({"rule":[[1,1],[90,90]]})", "", {}}));
+    char text[64];
+    EXPECT_TRUE(line->GetVideoAnalyseShapeConfigData(text, sizeof(text))) << "asks for the view, and finds none";
+    line->Retire();
+    rectangle->Retire();
 }
 
 } // namespace

@@ -80,6 +80,11 @@ TEST(Polygon, TakesTheDirectionsOfAStyle) {
         const auto marks = std::count(drawn.begin(), drawn.end(), "line (150,80)-(150,120) w2 yellow");
         EXPECT_EQ(marks, direction >= 0 && direction <= 5 ? 1 : 0) << direction;
     }
+    ScenarioHost host(GridView, GridView);
+    host.container.ShowHandles(host.Add("Polygon", Rule("9,9"), R"({"Direction":2})"), false);
+    EXPECT_EQ(host.Paint(), (Lines{"line (9,9)-(9,9) w2 yellow", "line (9,9)-(9,9) w2 yellow",
+                                   "caption \"\" at (9,9) yellow clip 0,0,8191,8191"}))
+        << "one point has no first edge";
 }
 
 } // namespace

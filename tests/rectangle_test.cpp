@@ -99,7 +99,9 @@ TEST(Rectangle, DrawsAsItsStyleSays) {
             Case{R"({"ShapeColor":[{"ColorName":"FillColor","R":9,"G":8,"B":7},{"ColorName":"SelColor","R":8,"B":7},)"
                  R"({"ColorName":"FontColor","R":9,"G":8,"B":7}]})",
                  " w2 yellow", " w2 blue"},
+            Case{R"({"ShapeColor":[{"ColorName":"SelColor","R":1,"G":2,"B":4}]})", " w2 1,2,4", " w2 blue"},
             Case{R"({"LineThickness":7,})", " w2 yellow", " w2 blue"},
+            Case{R"({"LineThickness":5000000000,"UnSelLineThickness":7})", " w2 yellow", " w7 blue"},
             Case{"TextOnly,EnableRBtnDelete", " w2 yellow", " w2 blue"},
         }) {
         ScenarioHost host(GridView, GridView);
@@ -142,16 +144,16 @@ TEST(Rectangle, FollowsTheSizeOfItsView) {
     EXPECT_EQ(host.Paint(), SelectedRectangle({200, 30}, {400, 75}));
     host.Resize(800, 300); // the height alone
     EXPECT_EQ(host.Paint(), SelectedRectangle({200, 60}, {400, 150}));
-    host.Resize(800, 150);
-    host.Paint();
-    for (const ClientRect& empty : {ClientRect{0, 0, 0, 0}, ClientRect{0, 0, -5, 100}, ClientRect{50, 0, 50, 100}}) {
-        host.clientRect = empty;
-        EXPECT_EQ(host.Paint(), SelectedRectangle({200, 30}, {400, 75})) << "a minimised window collapses nothing";
+    // Scaled by the right and bottom edges, then remembered by width and height.
+    using Case = std::pair<ClientRect, const char*>;
+    for (const auto& [view, drawn] :
+         {Case{{0, 0, 800, 150}, "(200,30)-(400,75)"}, Case{{400, 0, 1600, 150}, "(400,30)-(800,75)"},
+          Case{{400, 0, 1600, 150}, "(533.33,30)-(1066.67,75)"}, Case{{0, 0, 1200, 150}, "(533.33,30)-(1066.67,75)"},
+          Case{{0, 50, 1200, 150}, "(533.33,30)-(1066.67,75)"}, Case{{0, 0, 1200, 100}, "(533.33,30)-(1066.67,75)"},
+          Case{{0, 0, 1200, 200}, "(533.33,60)-(1066.67,150)"}}) {
+        host.clientRect = view;
+        EXPECT_EQ(host.Paint()[1], "rect " + std::string(drawn) + " w2 yellow");
     }
-    host.clientRect = ClientRect{400, 0, 1600, 150};
-    host.Paint();
-    EXPECT_EQ(host.Paint()[1], "rect (533.33,30)-(1066.67,75) w2 yellow")
-        << "scaled by the right edge, then remembered by the width";
 }
 
 } // namespace

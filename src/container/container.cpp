@@ -60,12 +60,6 @@ void CVideoAnalyseContainer::ForgetHost() {
     translateDelegate.Set(none);
 }
 
-ClientRect CVideoAnalyseContainer::GetClientRect(ViewID view) {
-    ClientRect rect{};
-    clientRectDelegate(view, &rect);
-    return rect;
-}
-
 void CVideoAnalyseContainer::unRegisterWinMouseEvent(MouseListenerKind kind, CVideoAnalyseShape& listener) {
     if (kind == MouseListenerKind::MouseMoved) {
         DebugTrace("unRegisterWinMouseEvent:MOUSE_MOVED_EVENT\n");

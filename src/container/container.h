@@ -80,7 +80,11 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     void OnMouseEvent(const ContainerMouseEvent& event);
     void OnDraw(ViewID view, IContainerGraphics& surface);
 
-    ClientRect GetClientRect(ViewID view) override;
+    ClientRect GetClientRect(ViewID view) override {
+        ClientRect rect{};
+        clientRectDelegate(view, &rect);
+        return rect;
+    }
     void RequestCapture(bool take) override { captureDelegate(ToBool32(take)); }
     void RegisterWinMouseEvent(MouseListenerKind kind, const ShapePtr& listener) override {
         ListenersOf(kind).Register(listener);

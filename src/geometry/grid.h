@@ -6,8 +6,8 @@ namespace rulecanvas {
 
 /// A place on the 0..8191 grid of the configuration texts.
 struct GridPoint {
-    int x = 0;
-    int y = 0;
+    int x;
+    int y;
 };
 
 constexpr int GridSpan = 8191;

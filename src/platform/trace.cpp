@@ -23,9 +23,7 @@ void SetTraceSink(TraceSink sink) {
 }
 
 void Trace(const std::string& line) {
-    if (currentSink != nullptr) {
-        currentSink(line.c_str());
-    }
+    currentSink(line.c_str());
 }
 
 } // namespace rulecanvas

@@ -14,7 +14,7 @@ bool IsTracing();
 /// library's objects; call it while no other call runs.
 void SetTraceSink(TraceSink sink);
 
-/// Tells one refusal, without a line feed.
+/// Tells one refusal, without a line feed; only while tracing.
 void Trace(const std::string& line);
 
 /// Where rare calls say that they happened. That goes nowhere here; a build may route it to a log.

@@ -132,7 +132,9 @@ void CGestureShape::Dispose() {
         ++life; // whatever step is still speaking is over
         hasMouse = listening || (state == Drawing && !figure.points.empty());
     }
-    UnregisterDraw();
+    if (IShapeContainer* owner = GetContainer()) {
+        owner->unRegisterDrawEvent(*this);
+    }
     StopListening();
     if (hasMouse) {
         RequestCapture(false);

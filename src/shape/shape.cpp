@@ -187,10 +187,4 @@ void CVideoAnalyseShape::RegisterDraw() {
     }
 }
 
-void CVideoAnalyseShape::UnregisterDraw() {
-    if (IShapeContainer* owner = container) {
-        owner->unRegisterDrawEvent(*this);
-    }
-}
-
 } // namespace rulecanvas

@@ -147,7 +147,6 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     const OwnerHooks* OwnersHooks() const { return hooks.get(); }
     void MarkClaimStale();
     void RegisterDraw();
-    void UnregisterDraw();
 
     // What a paint looks at stands together, first: with many figures, fetching it is most of the time.
 

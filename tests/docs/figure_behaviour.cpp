@@ -1,8 +1,7 @@
 #include "docs/figure_behaviour.h"
 
 #include "support/scenario_host.h"
-
-#include <map>
+#include "support/types.h"
 
 namespace rulecanvas::test {
 namespace {
@@ -18,23 +17,10 @@ PointF Beyond(const PointF& point) {
 
 } // namespace
 
-std::string GeometryOf(const std::string& type) {
-    static const std::map<std::string, std::string> particular{
-        {"Rect", R"({"rule":[[1000,1000],[3000,3000]]})"},
-        {"OvalShape", R"({"OvalShape":[[1000,1000],[3000,3000]]})"},
-        {"PixelCountShape", R"({"rule":[600,450]})"},
-        {"CrossShape", R"({"rule":[[1000,1000]]})"},
-        {"BigCrossShape", R"({"rule":[[0,999,8191,1001],[999,0,1001,8191],[0,4999,8191,5001],[4999,0,5001,8191]]})"},
-        {"SpotShape", R"({"rule":[[1000,1000]]})"},
-    };
-    const auto found = particular.find(type);
-    return found == particular.end() ? R"({"rule":[[1000,1000],[3000,3000],[5000,1000]]})" : found->second;
-}
-
 Lines BehaviourOf(const std::string& type, const std::string& option) {
     ScenarioHost host;
-    host.container.SetVideoSize(800, 600);
-    const ShapeID shape = host.Add(type.c_str(), GeometryOf(type), option);
+    host.container.SetVideoSize(GridView, GridView);
+    const ShapeID shape = host.Add(type.c_str(), ConfigOf(type), option);
     if (shape == 0) {
         return {"refused"};
     }

@@ -4,9 +4,6 @@
 
 namespace rulecanvas::test {
 
-/// A configuration of a figure named "rule" with a point at (1000, 1000) of the grid, or a corner there.
-std::string GeometryOf(const std::string& type);
-
 /// What a figure of a type shows with an option text: selected, after a drag by its middle, after one of its first
 /// point, and not selected. One line, "refused", when the option keeps it from being made.
 Lines BehaviourOf(const std::string& type, const std::string& option);

@@ -28,7 +28,10 @@ Outcome CLineFamilyShape::EndDrawing(const PointerEvent& event) {
     if (path.empty() || path.size() >= MaximumPoints() || !event.HasView()) {
         return {};
     }
-    const PointF release = Released(event);
+    PointF release = event.ClampedFrom(path.front());
+    if (horizon || movedHLine) {
+        release.y = path.front().y;
+    }
     if (!IsWithinLimit(path.front(), release)) {
         return StartOver();
     }
@@ -40,15 +43,6 @@ Outcome CLineFamilyShape::EndDrawing(const PointerEvent& event) {
         return StartOver();
     }
     return complete ? Finish() : Outcome{};
-}
-
-/// Where a release offers a point: in the view, and level for a horizon.
-PointF CLineFamilyShape::Released(const PointerEvent& release) const {
-    PointF point = release.ClampedFrom(figure.points.front());
-    if (horizon || movedHLine) {
-        point.y = figure.points.front().y;
-    }
-    return point;
 }
 
 /// Appends the point unless it may not be there or is too near to the last one.

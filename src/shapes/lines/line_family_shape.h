@@ -72,7 +72,6 @@ class CLineFamilyShape : public CGestureShape {
     bool movedHLine = false;
 
   private:
-    PointF Released(const PointerEvent& release) const;
     bool OfferPoint(const PointF& point, const ClientRect& view);
     void AdjustEndpoint(const PointerEvent& position);
 };

@@ -56,14 +56,7 @@ class CPolygonShape final : public CClickPathShape {
     bool IsOnOutline(const PointF& press) const override { return OnRing(figure.points, press); }
     bool HasInside() const override { return true; }
     /// A polygon that takes new vertices spends every right press on that: it is not deleted by one.
-    bool HandleRightPress(const PointF& press) override {
-        if (edgePress == EdgePress::Ignored) {
-            return true;
-        }
-        InsertVertex(press);
-        return false;
-    }
-
+    bool HandleRightPress(const PointF& press) override;
     bool OfferFinish() override;
     bool AcceptsLastPoint(bool isLast) const override {
         return PassesValidation(figure.points, isLast) && !LastEdgeCrosses(figure.points) &&
@@ -81,7 +74,6 @@ class CPolygonShape final : public CClickPathShape {
     CopyRule RuleOfCopying() const override { return CopyRule::ZeroUncounted; }
     void DrawRest(const ShapeLook& look, IContainerGraphics& surface) override;
 
-    void InsertVertex(const PointF& press);
     bool IsSound() const { return !RingCrosses(figure.points) && IsConvexEnough(); }
 
     const EdgePress edgePress;
@@ -119,7 +111,10 @@ void DrawDirection(const ShapeLook& look, IContainerGraphics& surface) {
 
 } // namespace
 
-void CPolygonShape::InsertVertex(const PointF& press) {
+bool CPolygonShape::HandleRightPress(const PointF& press) {
+    if (edgePress == EdgePress::Ignored) {
+        return true;
+    }
     Take(nullptr, [&]() -> Outcome {
         Points& ring = figure.points;
         const int count = static_cast<int>(ring.size());
@@ -136,6 +131,7 @@ void CPolygonShape::InsertVertex(const PointF& press) {
         }
         return {};
     });
+    return false;
 }
 
 /// Offering the right button's finish is where a drawing that cannot be closed ends: nothing the user could click next

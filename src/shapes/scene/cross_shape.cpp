@@ -42,7 +42,6 @@ class CCrossShape final : public CPlacedCrosses {
         }
     }
 
-    void DropCross(PointF& /*cross*/, const PointerEvent& /*release*/) override {}
     /// The number of crosses.
     void ReadWord(const char* option) override { maxPtNum = MaximumFrom(option); }
     /// A configuration without the member still makes as many crosses as were asked for, all in the top left corner,

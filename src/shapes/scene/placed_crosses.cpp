@@ -24,7 +24,8 @@ int CPlacedCrosses::CrossAt(const PointF& press) const {
 }
 
 Outcome CPlacedCrosses::ContinueDrawing(const PointerEvent& press) {
-    if (!HasRoom()) {
+    const int count = static_cast<int>(figure.points.size());
+    if (count > 0 && count >= Maximum()) {
         // the host lowered the maximum between two clicks
         return IsListening() ? Outcome{} : Outcome{Complete, effects::Tell};
     }

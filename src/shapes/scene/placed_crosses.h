@@ -21,7 +21,7 @@ class CPlacedCrosses : public CGestureShape {
     virtual int CrossAt(const PointF& press) const;
     /// What a move of a dragged cross and its release do.
     virtual void DragCross(PointF& cross, const PointerEvent& position) = 0;
-    virtual void DropCross(PointF& cross, const PointerEvent& release) = 0;
+    virtual void DropCross(PointF& /*cross*/, const PointerEvent& /*release*/) {}
     /// The crosses as the member of a configuration gives them; null when it is missing.
     virtual Points ReadCrosses(const Json::Value& member) = 0;
 
@@ -64,12 +64,6 @@ class CPlacedCrosses : public CGestureShape {
     PointF* GrabbedCross() {
         const auto index = static_cast<size_t>(figure.grabbedIndex);
         return figure.grabbedIndex < 0 || index >= figure.points.size() ? nullptr : &figure.points[index];
-    }
-
-  private:
-    bool HasRoom() const {
-        const int count = static_cast<int>(figure.points.size());
-        return count == 0 || count < Maximum();
     }
 };
 
