@@ -7,6 +7,7 @@
 #include "shape/json_text.h"
 
 #include <type_traits>
+#include <utility>
 
 namespace rulecanvas {
 namespace {
