@@ -1,5 +1,6 @@
 /** Rules of video analytics, drawn and edited in a browser. */
-export { RuleCanvas, type RuleCanvasOptions, type Snapshot } from "./rule_canvas.js";
+export { RuleCanvas, type RuleCanvasOptions } from "./rule_canvas.js";
+export type { Snapshot } from "./documents.js";
 export { Rule } from "./rule.js";
 export type { AddOptions } from "./options.js";
 export { hexOf, type Colour, type RuleStyle } from "./style.js";

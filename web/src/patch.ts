@@ -1,0 +1,82 @@
+import type { Sides } from "./boxes.js";
+import type { Point, Size } from "./geometry.js";
+import type { Sheet } from "./painter.js";
+
+/** How far something may go on beyond where it changed first, in pixels of the view, until another patch is needed. */
+const MARGIN = 160;
+/** A patch begins and ends at multiples of so many pixels of the view: on most screens whole canvas pixels. */
+const STEP = 16;
+/** The largest patch as a part of the view: a larger one saves nothing. */
+const MOST = 0.4;
+
+function isWhole(value: number): boolean {
+    return Math.abs(value - Math.round(value)) < 1e-6;
+}
+
+/** A small canvas in a hole of a large one, for what changes with every move of the pointer: a browser takes over a
+ * changed canvas as a whole, and the large one for many times as long. Every pixel of the view is drawn by one of the two,
+ * so that what lies above and below stays so. */
+export class Patch {
+    /** What it shows of the view; null while it is not there. */
+    area: Sides | null = null;
+    private readonly canvas = document.createElement("canvas");
+    private readonly context = this.canvas.getContext("2d")!;
+
+    constructor(private readonly large: HTMLCanvasElement) {
+        this.canvas.setAttribute("aria-hidden", "true");
+    }
+
+    /** The area that a patch round a place would have; null where a patch is of no use or would not fit exactly. */
+    areaRound(place: Sides, view: Size, ratio: Point): Sides | null {
+        const area = {
+            left: Math.max(Math.floor((place.left - MARGIN) / STEP) * STEP, 0),
+            top: Math.max(Math.floor((place.top - MARGIN) / STEP) * STEP, 0),
+            right: Math.min(Math.ceil((place.right + MARGIN) / STEP) * STEP, Math.floor(view.width / STEP) * STEP),
+            bottom: Math.min(Math.ceil((place.bottom + MARGIN) / STEP) * STEP, Math.floor(view.height / STEP) * STEP),
+        };
+        const [width, height] = [area.right - area.left, area.bottom - area.top];
+        const isUseful = width > 0 && height > 0 && width * height < MOST * view.width * view.height;
+        return isUseful && this.fits(view, ratio) ? area : null;
+    }
+
+    /** Puts the patch, empty, in its place. */
+    open(area: Sides, [x, y]: Point): Sheet {
+        const { canvas, large } = this;
+        const [width, height] = [area.right - area.left, area.bottom - area.top];
+        canvas.width = Math.round(width * x);
+        canvas.height = Math.round(height * y);
+        canvas.className = large.className;
+        canvas.style.cssText = large.style.cssText;
+        Object.assign(canvas.style, {
+            pointerEvents: "none",
+            left: `calc(${large.style.left} + ${area.left}px)`,
+            top: `calc(${large.style.top} + ${area.top}px)`,
+            width: `${width}px`,
+            height: `${height}px`,
+        });
+        large.after(canvas);
+        this.area = area;
+        return this.sheet([x, y]);
+    }
+
+    sheet([x, y]: Point): Sheet {
+        const { left, top } = this.area!;
+        return { context: this.context, x: Math.round(left * x), y: Math.round(top * y) };
+    }
+
+    close(): void {
+        this.canvas.remove();
+        this.area = null;
+    }
+
+    /** Whether pixels of both canvases lie on the same grid: not where the page stretches the large one. */
+    private fits(view: Size, [x, y]: Point): boolean {
+        const box = this.large.getBoundingClientRect();
+        return (
+            isWhole(STEP * x) &&
+            isWhole(STEP * y) &&
+            Math.abs(box.width - view.width) < 0.01 &&
+            Math.abs(box.height - view.height) < 0.01
+        );
+    }
+}
