@@ -2,6 +2,7 @@ import type { CoreModule } from "./core.js";
 import type { Point, Size } from "./geometry.js";
 import type { Pointing } from "./help.js";
 import { Host } from "./host.js";
+import type { Scale } from "./painter.js";
 import type { Recording } from "./recording.js";
 import { Screen } from "./screen.js";
 import { naturalSize, Stage, type Target } from "./stage.js";
@@ -19,6 +20,8 @@ export interface BoardListener {
 }
 
 const FINGER_HANDLE_SCALE = 1.6;
+/** A pointer that stays this long may be about to press. */
+const REST = 60;
 
 /** A container of the library and the canvas that shows it: paints are asked of the library and drawn once a frame. */
 export class Board {
@@ -33,6 +36,7 @@ export class Board {
     /** Whether something follows the pointer. */
     moving = false;
     private frame = 0;
+    private resting = 0;
     /** Whether a paint ahead differed from what the canvas shows. */
     private differs = false;
     private ended = false;
@@ -87,8 +91,16 @@ export class Board {
 
     /** Draws at once instead of with the next frame, all of it on the canvas. */
     render(): void {
-        this.moving = false;
         this.draw();
+        if (!this.ended) {
+            this.screen.settle(this.scale);
+        }
+    }
+
+    /** The pointer is here and presses nothing. */
+    hover(at: Point): void {
+        clearTimeout(this.resting);
+        this.resting = window.setTimeout(() => this.screen.prepare(at, this.size, this.scale), REST);
     }
 
     /** The next frame is drawn even if nothing of the library's differs. */
@@ -100,9 +112,14 @@ export class Board {
     end(): void {
         this.ended = true;
         cancelAnimationFrame(this.frame);
+        clearTimeout(this.resting);
         this.screen.end();
         this.stage.end();
         this.host.release();
+    }
+
+    private get scale(): Scale {
+        return { ratio: this.stage.ratio, handles: this.pointing === "touch" ? FINGER_HANDLE_SCALE : 1 };
     }
 
     private draw(): void {
@@ -112,9 +129,8 @@ export class Board {
             return;
         }
         this.listener.beforeFrame();
-        if (this.host.paint(this.view) || this.differs || this.screen.isOwing(this.moving)) {
-            const scale = { ratio: this.stage.ratio, handles: this.pointing === "touch" ? FINGER_HANDLE_SCALE : 1 };
-            this.screen.show(this.host.recording(), this.size, scale, this.moving);
+        if (this.host.paint(this.view) || this.differs || this.screen.isStale) {
+            this.screen.show(this.host.recording(), this.size, this.scale, this.moving);
             this.differs = false;
         }
     }

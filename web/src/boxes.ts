@@ -12,10 +12,7 @@ export function overlap(a: Sides, b: Sides): boolean {
 
 export function contains(outer: Sides, inner: Sides): boolean {
     return (
-        outer.left <= inner.left &&
-        outer.top <= inner.top &&
-        outer.right >= inner.right &&
-        outer.bottom >= inner.bottom
+        outer.left <= inner.left && outer.top <= inner.top && outer.right >= inner.right && outer.bottom >= inner.bottom
     );
 }
 

@@ -50,6 +50,9 @@ export class Gestures implements InputSink {
             this.model.selection.touched();
         }
         this.board.moving = code === MOUSE.moved && this.model.drawing.hasMouse;
+        if (code === MOUSE.moved && !this.board.moving) {
+            this.board.hover(at);
+        }
         this.showCursor();
         this.board.requestFrame();
     }
@@ -173,6 +176,7 @@ export class Gestures implements InputSink {
     private showCursor(): void {
         const overHandle = (): boolean =>
             nearestHandle(this.board.host.recording(), this.pointer, CURSOR_REACH) !== null;
-        this.board.canvas.style.cursor = this.model.drawing.rule !== null ? "crosshair" : overHandle() ? "grab" : "default";
+        this.board.canvas.style.cursor =
+            this.model.drawing.rule !== null ? "crosshair" : overHandle() ? "grab" : "default";
     }
 }

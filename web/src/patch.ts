@@ -1,4 +1,4 @@
-import type { Sides } from "./boxes.js";
+import { contains, type Sides } from "./boxes.js";
 import type { Point, Size } from "./geometry.js";
 import type { Sheet } from "./painter.js";
 
@@ -13,17 +13,25 @@ function isWhole(value: number): boolean {
     return Math.abs(value - Math.round(value)) < 1e-6;
 }
 
-/** A small canvas in a hole of a large one, for what changes with every move of the pointer: a browser takes over a
- * changed canvas as a whole, and the large one for many times as long. Every pixel of the view is drawn by one of the two,
+/** A small canvas in a hole of a large one, for what changes under the pointer: a browser takes over a changed canvas as a
+ * whole, and needs many times as long for the large one. Every pixel of the view is drawn by one of the two,
  * so that what lies above and below stays so. */
 export class Patch {
     /** What it shows of the view; null while it is not there. */
     area: Sides | null = null;
     private readonly canvas = document.createElement("canvas");
     private readonly context = this.canvas.getContext("2d")!;
+    /** A page may hide or move the large canvas, and means both. */
+    private readonly follower = new MutationObserver(() => this.follow());
 
     constructor(private readonly large: HTMLCanvasElement) {
         this.canvas.setAttribute("aria-hidden", "true");
+    }
+
+    /** Whether it is there and shows all of these places. */
+    covers(places: readonly Sides[]): boolean {
+        const { area } = this;
+        return area !== null && places.every((place) => contains(area, place));
     }
 
     /** The area that a patch round a place would have; null where a patch is of no use or would not fit exactly. */
@@ -41,21 +49,12 @@ export class Patch {
 
     /** Puts the patch, empty, in its place. */
     open(area: Sides, [x, y]: Point): Sheet {
-        const { canvas, large } = this;
-        const [width, height] = [area.right - area.left, area.bottom - area.top];
-        canvas.width = Math.round(width * x);
-        canvas.height = Math.round(height * y);
-        canvas.className = large.className;
-        canvas.style.cssText = large.style.cssText;
-        Object.assign(canvas.style, {
-            pointerEvents: "none",
-            left: `calc(${large.style.left} + ${area.left}px)`,
-            top: `calc(${large.style.top} + ${area.top}px)`,
-            width: `${width}px`,
-            height: `${height}px`,
-        });
-        large.after(canvas);
         this.area = area;
+        this.canvas.width = Math.round((area.right - area.left) * x);
+        this.canvas.height = Math.round((area.bottom - area.top) * y);
+        this.follow();
+        this.large.after(this.canvas);
+        this.follower.observe(this.large, { attributeFilter: ["class", "hidden", "style"] });
         return this.sheet([x, y]);
     }
 
@@ -65,8 +64,24 @@ export class Patch {
     }
 
     close(): void {
+        this.follower.disconnect();
         this.canvas.remove();
         this.area = null;
+    }
+
+    private follow(): void {
+        const { canvas, large } = this;
+        const { left, top, right, bottom } = this.area!;
+        canvas.className = large.className;
+        canvas.hidden = large.hidden;
+        canvas.style.cssText = large.style.cssText;
+        Object.assign(canvas.style, {
+            pointerEvents: "none",
+            left: `calc(${large.style.left} + ${left}px)`,
+            top: `calc(${large.style.top} + ${top}px)`,
+            width: `${right - left}px`,
+            height: `${bottom - top}px`,
+        });
     }
 
     /** Whether pixels of both canvases lie on the same grid: not where the page stretches the large one. */

@@ -229,7 +229,8 @@ export class RuleCanvas extends TypedEvents {
         this.whole(() => this.documents.restore(snapshot));
     }
 
-    /** Draws at once instead of with the next frame. */
+    /** Draws at once instead of with the next frame, and all of it on `canvas`: what changes under the pointer is otherwise
+     * drawn on a smaller canvas above it. Call it before you copy the picture. */
     render(): void {
         this.board.render();
     }

@@ -1,11 +1,14 @@
-import { around, contains, type Sides } from "./boxes.js";
+import { around, overlap, type Sides } from "./boxes.js";
 import { DisplayList } from "./display_list.js";
-import type { Size } from "./geometry.js";
+import type { Point, Size } from "./geometry.js";
 import { Painter, wholePixels, type Scale, type Sheet } from "./painter.js";
 import { Patch } from "./patch.js";
 import type { Recording } from "./recording.js";
 import type { TextPen } from "./text.js";
 import type { TextPlaces } from "./text_places.js";
+
+/** How far from the pointer a figure may be that a press there takes hold of. */
+const REACH = 8;
 
 /** Shows paints on a canvas: only where they differ from what it shows. */
 export class Screen {
@@ -29,9 +32,9 @@ export class Screen {
         this.stale = true;
     }
 
-    /** Whether the canvas lacks something that the next paint draws, even if the library paints the same. */
-    isOwing(moving: boolean): boolean {
-        return this.stale || (!moving && this.patch?.area != null);
+    /** Whether something has to be drawn even if the library paints the same. */
+    get isStale(): boolean {
+        return this.stale;
     }
 
     /** `moving`: something follows the pointer, so that more paints like this one will come. */
@@ -43,29 +46,50 @@ export class Screen {
         if (this.stale) {
             this.patch?.close();
             this.painter.draw(this.list, null, this.sheet, scale);
-        } else if (moving && this.patch?.area != null && damage.every((part) => contains(this.patch!.area!, part))) {
+        } else if (this.patch?.covers(damage)) {
             this.painter.draw(this.list, damage, this.patch.sheet(scale.ratio), scale);
         } else {
-            this.showOnCanvas(damage, view, scale, moving);
+            const follows = moving && damage.length > 0;
+            const area = follows ? this.patch?.areaRound(damage.reduce(around), view, scale.ratio) : null;
+            this.movePatch(area ?? null, damage, scale);
         }
         this.stale = false;
+    }
+
+    /** The pointer rests at a place and may press there: the figures under it get the patch. */
+    prepare([x, y]: Point, view: Size, scale: Scale): void {
+        const place = { left: x - REACH, top: y - REACH, right: x + REACH, bottom: y + REACH };
+        const touched = this.list.items.filter((item) => overlap(item, place));
+        if (this.patch === null || this.stale || touched.length === 0 || this.patch.covers(touched)) {
+            return;
+        }
+        const area = this.patch.areaRound(touched.reduce<Sides>(around, place), view, scale.ratio);
+        if (area !== null) {
+            this.movePatch(area, [], scale);
+        }
+    }
+
+    /** Everything goes back to the canvas itself. */
+    settle(scale: Scale): void {
+        if (this.patch?.area != null) {
+            this.movePatch(null, [], scale);
+        }
     }
 
     end(): void {
         this.patch?.close();
     }
 
-    /** What the patch showed goes back to the canvas, which gets another hole while something moves. */
-    private showOnCanvas(damage: readonly Sides[], view: Size, scale: Scale, moving: boolean): void {
+    /** What the patch showed is drawn on the canvas with all that differs, and the next area leaves it. */
+    private movePatch(next: Sides | null, damage: readonly Sides[], scale: Scale): void {
         const { patch } = this;
         const parts = patch?.area == null ? damage : [...damage, patch.area];
-        const area = moving && damage.length > 0 ? patch?.areaRound(damage.reduce(around), view, scale.ratio) : null;
         patch?.close();
         this.painter.draw(this.list, parts, this.sheet, scale);
-        if (patch != null && area != null) {
-            const { left, top, right, bottom } = wholePixels(area, scale.ratio);
+        if (patch !== null && next !== null) {
+            const { left, top, right, bottom } = wholePixels(next, scale.ratio);
             this.sheet.context.clearRect(left, top, right - left, bottom - top);
-            this.painter.draw(this.list, null, patch.open(area, scale.ratio), scale);
+            this.painter.draw(this.list, null, patch.open(next, scale.ratio), scale);
         }
     }
 }
