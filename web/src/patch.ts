@@ -39,8 +39,8 @@ export class Patch {
         const area = {
             left: Math.max(Math.floor((place.left - MARGIN) / STEP) * STEP, 0),
             top: Math.max(Math.floor((place.top - MARGIN) / STEP) * STEP, 0),
-            right: Math.min(Math.ceil((place.right + MARGIN) / STEP) * STEP, Math.floor(view.width / STEP) * STEP),
-            bottom: Math.min(Math.ceil((place.bottom + MARGIN) / STEP) * STEP, Math.floor(view.height / STEP) * STEP),
+            right: Math.min(Math.ceil((place.right + MARGIN) / STEP) * STEP, view.width),
+            bottom: Math.min(Math.ceil((place.bottom + MARGIN) / STEP) * STEP, view.height),
         };
         const [width, height] = [area.right - area.left, area.bottom - area.top];
         const isUseful = width > 0 && height > 0 && width * height < MOST * view.width * view.height;
@@ -69,14 +69,17 @@ export class Patch {
         this.area = null;
     }
 
+    /** What the page says of all canvases is not for this one; only what shows or hides the large one is. */
     private follow(): void {
-        const { canvas, large } = this;
+        const { large } = this;
+        const { display, opacity, visibility, zIndex } = getComputedStyle(large);
         const { left, top, right, bottom } = this.area!;
-        canvas.className = large.className;
-        canvas.hidden = large.hidden;
-        canvas.style.cssText = large.style.cssText;
-        Object.assign(canvas.style, {
-            pointerEvents: "none",
+        this.canvas.style.cssText = "all: initial; position: absolute; pointer-events: none";
+        Object.assign(this.canvas.style, {
+            display,
+            opacity,
+            visibility,
+            zIndex,
             left: `calc(${large.style.left} + ${left}px)`,
             top: `calc(${large.style.top} + ${top}px)`,
             width: `${right - left}px`,

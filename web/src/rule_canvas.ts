@@ -1,4 +1,5 @@
 import { Board } from "./board.js";
+import type { RuleCanvasOptions } from "./canvas_options.js";
 import { loadCore, type CoreModule, type Library } from "./core.js";
 import { Documents, type Snapshot } from "./documents.js";
 import { RuleCanvasError } from "./errors.js";
@@ -11,18 +12,6 @@ import { Model } from "./model.js";
 import { recordOf, type AddOptions } from "./options.js";
 import type { Rule } from "./rule.js";
 import { writeRulesFile, type RulesFile } from "./rules_file.js";
-
-/** How a canvas is made. */
-export interface RuleCanvasOptions {
-    /** The WebAssembly file, when it does not lie beside the module. */
-    wasm?: string | URL;
-    /** The view that the canvas shows; rules of other views are kept and not shown. 0 when absent. */
-    view?: number;
-    /** The size of the picture in pixels of its own, when the element cannot tell. */
-    picture?: Size;
-    /** Whether the user may edit. True when absent. */
-    editable?: boolean;
-}
 
 /** A canvas on which a user draws and edits rules.
  *
