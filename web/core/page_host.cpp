@@ -8,7 +8,8 @@
 namespace rulecanvas_web {
 
 PageHost::PageHost(uint32_t number)
-    : page(number), object([number] { PageRequestRedraw(number); }, [number](uint32_t value) { PageHint(number, value); }),
+    : page(number),
+      object([number] { PageRequestRedraw(number); }, [number](uint32_t value) { PageHint(number, value); }),
       container(&object), measures(number), surface(measures) {
     Listen(true);
     container.OnClientRect([this](rulecanvas::ViewID) { return area; });

@@ -93,7 +93,7 @@ export class Board {
     render(): void {
         this.draw();
         if (!this.ended) {
-            this.screen.settle(this.scale);
+            this.screen.settle(this.size, this.scale);
         }
     }
 

@@ -14,11 +14,13 @@ function isWhole(value: number): boolean {
 }
 
 /** A small canvas in a hole of a large one, for what changes under the pointer: a browser takes over a changed canvas as a
- * whole, and needs many times as long for the large one. Every pixel of the view is drawn by one of the two,
- * so that what lies above and below stays so. */
+ * whole, and needs many times as long for the large one. Every pixel of the view is drawn by one of the two, so that what
+ * lies above and below stays so. */
 export class Patch {
     /** What it shows of the view; null while it is not there. */
     area: Sides | null = null;
+    /** The same, without an end at the sides of the view, beyond which nothing is seen. */
+    private reach: Sides | null = null;
     private readonly canvas = document.createElement("canvas");
     private readonly context = this.canvas.getContext("2d")!;
     /** A page may hide or move the large canvas, and means both. */
@@ -30,8 +32,8 @@ export class Patch {
 
     /** Whether it is there and shows all of these places. */
     covers(places: readonly Sides[]): boolean {
-        const { area } = this;
-        return area !== null && places.every((place) => contains(area, place));
+        const { reach } = this;
+        return reach !== null && places.every((place) => contains(reach, place));
     }
 
     /** The area that a patch round a place would have; null where a patch is of no use or would not fit exactly. */
@@ -48,8 +50,14 @@ export class Patch {
     }
 
     /** Puts the patch, empty, in its place. */
-    open(area: Sides, [x, y]: Point): Sheet {
+    open(area: Sides, view: Size, [x, y]: Point): Sheet {
         this.area = area;
+        this.reach = {
+            left: area.left > 0 ? area.left : -Infinity,
+            top: area.top > 0 ? area.top : -Infinity,
+            right: area.right < view.width ? area.right : Infinity,
+            bottom: area.bottom < view.height ? area.bottom : Infinity,
+        };
         this.canvas.width = Math.round((area.right - area.left) * x);
         this.canvas.height = Math.round((area.bottom - area.top) * y);
         this.follow();
@@ -67,6 +75,7 @@ export class Patch {
         this.follower.disconnect();
         this.canvas.remove();
         this.area = null;
+        this.reach = null;
     }
 
     /** What the page says of all canvases is not for this one; only what shows or hides the large one is. */

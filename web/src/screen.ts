@@ -51,7 +51,7 @@ export class Screen {
         } else {
             const follows = moving && damage.length > 0;
             const area = follows ? this.patch?.areaRound(damage.reduce(around), view, scale.ratio) : null;
-            this.movePatch(area ?? null, damage, scale);
+            this.movePatch(area ?? null, damage, view, scale);
         }
         this.stale = false;
     }
@@ -65,14 +65,14 @@ export class Screen {
         }
         const area = this.patch.areaRound(touched.reduce<Sides>(around, place), view, scale.ratio);
         if (area !== null) {
-            this.movePatch(area, [], scale);
+            this.movePatch(area, [], view, scale);
         }
     }
 
     /** Everything goes back to the canvas itself. */
-    settle(scale: Scale): void {
+    settle(view: Size, scale: Scale): void {
         if (this.patch?.area != null) {
-            this.movePatch(null, [], scale);
+            this.movePatch(null, [], view, scale);
         }
     }
 
@@ -81,7 +81,7 @@ export class Screen {
     }
 
     /** What the patch showed is drawn on the canvas with all that differs, and the next area leaves it. */
-    private movePatch(next: Sides | null, damage: readonly Sides[], scale: Scale): void {
+    private movePatch(next: Sides | null, damage: readonly Sides[], view: Size, scale: Scale): void {
         const { patch } = this;
         const parts = patch?.area == null ? damage : [...damage, patch.area];
         patch?.close();
@@ -89,7 +89,7 @@ export class Screen {
         if (patch !== null && next !== null) {
             const { left, top, right, bottom } = wholePixels(next, scale.ratio);
             this.sheet.context.clearRect(left, top, right - left, bottom - top);
-            this.painter.draw(this.list, null, patch.open(next, scale.ratio), scale);
+            this.painter.draw(this.list, null, patch.open(next, view, scale.ratio), scale);
         }
     }
 }
