@@ -1,18 +1,31 @@
-// Measures one library after the other in this page: loading, a press, and steps of a drag, each until the browser has
-// rendered the frame that shows it.
+// Measures one library after the other in this page: loading, a press, and steps of a drag, each until the
+// frame that shows it has reached the screen.
 import { DRAGGED, middles, pathOf } from "./scene.js";
 import { subjects } from "./subjects.js";
 
-/** Resolves when the frame that the last change led to has been rendered: a task after the one that renders. */
-function rendered() {
-    return new Promise((done) => {
-        requestAnimationFrame(() => {
-            const channel = new MessageChannel();
-            channel.port1.onmessage = () => done();
-            channel.port2.postMessage(null);
-        });
-    });
+const marks = document.getElementById("marks");
+const awaited = new Map();
+new PerformanceObserver((list) => {
+    for (const { identifier, presentationTime } of list.getEntries()) {
+        awaited.get(identifier)?.(presentationTime);
+    }
+}).observe({ type: "element" });
+
+/** When the next frame, with all that was changed until now, had reached the screen. The browser tells it for a text that is new
+ * in that frame. The page itself has done its part long before: the browser draws what it was given afterwards. */
+async function presented() {
+    const mark = Object.assign(document.createElement("div"), { textContent: "x" });
+    const name = String(performance.now());
+    mark.setAttribute("elementtiming", name);
+    const time = new Promise((done) => awaited.set(name, done));
+    marks.replaceChildren(mark);
+    const result = await time;
+    awaited.delete(name);
+    return result;
 }
+
+/** How long a hand rests on a polygon before it presses. */
+const REST = 150;
 
 /** A pointer event and the mouse event that browsers send with it, to whatever lies there. */
 function send(kind, [x, y]) {
@@ -39,37 +52,37 @@ function send(kind, [x, y]) {
 async function timed(action) {
     const begin = performance.now();
     await action();
-    await rendered();
-    return performance.now() - begin;
+    return (await presented()) - begin;
 }
 
 async function measure(subject, steps) {
     const scene = await subject.prepare();
-    await rendered();
+    await presented();
     const load = await timed(scene.load);
     if (scene.count() !== middles.length) {
         throw new Error(`${scene.count()} polygons were loaded`);
     }
     const middle = middles[DRAGGED];
     send("move", middle);
-    await rendered();
+    await presented();
+    await new Promise((done) => setTimeout(done, REST));
     // Some libraries select when the button goes down, some when it comes up: a press is both.
     const press = await timed(() => {
         send("down", middle);
         send("up", middle);
     });
-    await rendered();
+    await presented();
     const before = scene.placeOf(DRAGGED).map(Number);
     send("move", middle);
     send("down", middle);
-    await rendered();
+    await presented();
     const times = [];
     for (const at of pathOf(steps)) {
         times.push(await timed(() => send("move", at)));
     }
     const last = pathOf(steps).at(-1);
     send("up", last);
-    await rendered();
+    await presented();
     const after = scene.placeOf(DRAGGED).map(Number);
     const moved = [after[0] - before[0], after[1] - before[1]];
     const wanted = [last[0] - middle[0], last[1] - middle[1]];

@@ -9,7 +9,7 @@ function emptyPlace() {
     return place;
 }
 
-/** A picture to lie under the rules: annotation libraries want one. */
+/** The picture that lies under the polygons. */
 async function picture(place) {
     const blank = Object.assign(document.createElement("canvas"), { width: WIDTH, height: HEIGHT });
     const image = Object.assign(new Image(), { src: blank.toDataURL() });
@@ -42,7 +42,9 @@ function konva(dragLayer) {
     return {
         async prepare() {
             const { Konva } = window;
-            const stage = new Konva.Stage({ container: emptyPlace(), width: WIDTH, height: HEIGHT });
+            const container = Object.assign(document.createElement("div"), { className: "above" });
+            (await picture(emptyPlace())).after(container);
+            const stage = new Konva.Stage({ container, width: WIDTH, height: HEIGHT });
             const layer = new Konva.Layer();
             const above = new Konva.Layer();
             stage.add(layer, above);

@@ -6,12 +6,6 @@ using rulecanvas::ShapeID;
 using rulecanvas::ViewID;
 using rulecanvas_web::PageHost;
 
-namespace {
-
-rulecanvas::Text states;
-
-} // namespace
-
 extern "C" {
 
 PageHost* HostCreate(uint32_t number) {
@@ -54,9 +48,12 @@ const char* HostConfiguration(PageHost* host, ShapeID shape) {
     return host->Configuration(shape);
 }
 
-const char* AllStates() {
-    states = rulecanvas::AllShapeStates();
-    return states.c_str();
+const uint32_t* HostSelection(PageHost* host) {
+    return host->Selection();
+}
+
+void HostListen(PageHost* host, bool listens) {
+    host->Listen(listens);
 }
 
 void HostForgetMeasures(PageHost* host) {

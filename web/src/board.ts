@@ -1,10 +1,10 @@
 import type { CoreModule } from "./core.js";
-import { DisplayList } from "./display_list.js";
 import type { Point, Size } from "./geometry.js";
 import type { Pointing } from "./help.js";
 import { Host } from "./host.js";
-import { Painter } from "./painter.js";
+import type { Scale } from "./painter.js";
 import type { Recording } from "./recording.js";
+import { Screen } from "./screen.js";
 import { naturalSize, Stage, type Target } from "./stage.js";
 import { TextPen } from "./text.js";
 import { TextPlaces } from "./text_places.js";
@@ -20,6 +20,8 @@ export interface BoardListener {
 }
 
 const FINGER_HANDLE_SCALE = 1.6;
+/** A pointer that stays this long may be about to press. */
+const REST = 60;
 
 /** A container of the library and the canvas that shows it: paints are asked of the library and drawn once a frame. */
 export class Board {
@@ -27,17 +29,16 @@ export class Board {
     /** Fingers get larger handles. */
     pointing: Pointing = matchMedia("(pointer: coarse)").matches ? "touch" : "mouse";
     private readonly stage: Stage;
-    private readonly painter: Painter;
+    private readonly screen: Screen;
     private readonly places: TextPlaces;
     private readonly texts = new TextPen();
     private readonly context: CanvasRenderingContext2D;
+    /** Whether something follows the pointer. */
+    moving = false;
     private frame = 0;
-    /** What the canvas shows. */
-    private drawn: DisplayList | null = null;
+    private resting = 0;
     /** Whether a paint ahead differed from what the canvas shows. */
     private differs = false;
-    /** Whether everything has to be drawn, whatever the canvas shows. */
-    private mustDraw = true;
     private ended = false;
 
     constructor(
@@ -50,7 +51,7 @@ export class Board {
     ) {
         this.context = canvas.getContext("2d")!;
         this.places = new TextPlaces(this.context, this.texts);
-        this.painter = new Painter(this.context, this.texts, this.places);
+        this.screen = new Screen(canvas, this.texts, this.places, target !== null);
         this.host = new Host(core, {
             notified: (text) => listener.notified(text),
             captured: (taken) => listener.captured(taken),
@@ -77,7 +78,7 @@ export class Board {
 
     requestFrame(): void {
         if (this.frame === 0 && !this.ended) {
-            this.frame = requestAnimationFrame(() => this.render());
+            this.frame = requestAnimationFrame(() => this.draw());
         }
     }
 
@@ -88,35 +89,50 @@ export class Board {
         return this.host.recording();
     }
 
-    /** Draws at once instead of with the next frame: what differs from what the canvas shows. */
+    /** Draws at once instead of with the next frame, all of it on the canvas. */
     render(): void {
-        cancelAnimationFrame(this.frame);
-        this.frame = 0;
-        if (this.ended) {
-            return;
+        this.draw();
+        if (!this.ended) {
+            this.screen.settle(this.size, this.scale);
         }
-        this.listener.beforeFrame();
-        if (this.host.paint(this.view) || this.differs || this.mustDraw) {
-            const list = new DisplayList(this.host.recording(), this.places);
-            const parts = this.mustDraw || this.drawn === null ? null : list.damageSince(this.drawn);
-            this.painter.draw(list, parts, this.stage.ratio, this.pointing === "touch" ? FINGER_HANDLE_SCALE : 1);
-            this.drawn = list;
-            this.differs = false;
-            this.mustDraw = false;
-        }
+    }
+
+    /** The pointer is here and presses nothing. */
+    hover(at: Point): void {
+        clearTimeout(this.resting);
+        this.resting = window.setTimeout(() => this.screen.prepare(at, this.size, this.scale), REST);
     }
 
     /** The next frame is drawn even if nothing of the library's differs. */
     invalidate(): void {
-        this.mustDraw = true;
+        this.screen.invalidate();
         this.requestFrame();
     }
 
     end(): void {
         this.ended = true;
         cancelAnimationFrame(this.frame);
+        clearTimeout(this.resting);
+        this.screen.end();
         this.stage.end();
         this.host.release();
+    }
+
+    private get scale(): Scale {
+        return { ratio: this.stage.ratio, handles: this.pointing === "touch" ? FINGER_HANDLE_SCALE : 1 };
+    }
+
+    private draw(): void {
+        cancelAnimationFrame(this.frame);
+        this.frame = 0;
+        if (this.ended) {
+            return;
+        }
+        this.listener.beforeFrame();
+        if (this.host.paint(this.view) || this.differs || this.screen.isStale) {
+            this.screen.show(this.host.recording(), this.size, this.scale, this.moving);
+            this.differs = false;
+        }
     }
 
     private resize(): void {

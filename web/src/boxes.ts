@@ -10,6 +10,12 @@ export function overlap(a: Sides, b: Sides): boolean {
     return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
 }
 
+export function contains(outer: Sides, inner: Sides): boolean {
+    return (
+        outer.left <= inner.left && outer.top <= inner.top && outer.right >= inner.right && outer.bottom >= inner.bottom
+    );
+}
+
 /** The smallest rectangle round both. */
 export function around(a: Sides, b: Sides): Sides {
     return {

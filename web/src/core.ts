@@ -66,7 +66,8 @@ interface Bridge {
     HostRecording(host: number): number;
     HostRecordingSize(host: number): number;
     HostConfiguration(host: number, shape: number): number;
-    AllStates(): number;
+    HostSelection(host: number): number;
+    HostListen(host: number, listens: number): void;
     HostForgetMeasures(host: number): void;
 }
 

@@ -1,142 +1,132 @@
 import { Parts, type Sides } from "./boxes.js";
-import { isHandle } from "./painter.js";
+import { Extent } from "./extent.js";
 import { PEN, readCommand, type Recording, type RecordingReader } from "./recording.js";
 import type { TextPlaces } from "./text_places.js";
 
-/** How many commands after a difference are searched for where two lists agree again: more than the handles of a figure. */
+/** How many commands after a difference are searched for where two paints agree again: more than the handles of a figure. */
 const WINDOW = 64;
-/** Handles are drawn larger for fingers. */
-const HANDLE_MARGIN = 10;
-
-/** Finds how far a command paints. */
-class Extent implements RecordingReader, Sides {
-    left = 0;
-    top = 0;
-    right = 0;
-    bottom = 0;
-    width = 1;
-    colour = 0;
-    patterned = false;
-
-    constructor(private readonly places: TextPlaces) {}
-
-    pen(width: number, colour: number, patterned: boolean): void {
-        this.width = width;
-        this.colour = colour;
-        this.patterned = patterned;
-    }
-
-    path(numbers: Float32Array, first: number, count: number): void {
-        let [left, top] = [numbers[first]!, numbers[first + 1]!];
-        let [right, bottom] = [left, top];
-        for (let i = first + 2; i < first + 2 * count; i += 2) {
-            left = Math.min(left, numbers[i]!);
-            right = Math.max(right, numbers[i]!);
-            top = Math.min(top, numbers[i + 1]!);
-            bottom = Math.max(bottom, numbers[i + 1]!);
-        }
-        this.set(left, top, right, bottom, this.strokeMargin());
-    }
-
-    rectangle(left: number, top: number, right: number, bottom: number): void {
-        this.set(
-            left,
-            top,
-            right,
-            bottom,
-            isHandle(left, top, right, bottom, this.width) ? HANDLE_MARGIN : this.strokeMargin(),
-        );
-    }
-
-    ellipse(left: number, top: number, right: number, bottom: number): void {
-        this.set(
-            Math.min(left, right),
-            Math.min(top, bottom),
-            Math.max(left, right),
-            Math.max(top, bottom),
-            this.strokeMargin(),
-        );
-    }
-
-    fillEllipse(left: number, top: number, right: number, bottom: number): void {
-        this.ellipse(left, top, right, bottom);
-    }
-
-    fillRectangle(left: number, top: number, right: number, bottom: number): void {
-        this.set(left, top, right, bottom, 1);
-    }
-
-    text(x: number, y: number, size: number, _colour: number, text: string): void {
-        const placed = this.places.text(x, y, size, text);
-        this.set(placed.x, placed.y, placed.x + placed.width, placed.y + placed.height, 3);
-    }
-
-    caption(x: number, y: number, _colour: number, clip: readonly number[], text: string): void {
-        const placed = this.places.caption(x, y, clip, text);
-        this.set(placed.x, placed.y, placed.x + placed.width, placed.y + placed.height, 3);
-    }
-
-    private set(left: number, top: number, right: number, bottom: number, margin: number): void {
-        this.left = left - margin;
-        this.top = top - margin;
-        this.right = right + margin;
-        this.bottom = bottom + margin;
-    }
-
-    /** A pointed corner reaches further than half the width. */
-    private strokeMargin(): number {
-        return 2 * this.width + 1;
-    }
-}
 
 /** One command with the pen that it is drawn with. */
 interface Item extends Sides {
     begin: number;
     end: number;
-    width: number;
-    colour: number;
-    patterned: boolean;
+    readonly width: number;
+    readonly colour: number;
+    readonly patterned: boolean;
 }
 
-/** A recording of its own, command by command, which can be compared with the one before and drawn in parts. */
-export class DisplayList {
-    readonly items: Item[] = [];
-    private readonly words: Uint32Array;
-    private readonly numbers: Float32Array;
+/** The words of a paint, in memory of its own. */
+interface Words {
+    words: Uint32Array;
+    /** The same memory. */
+    numbers: Float32Array;
+    length: number;
+}
 
-    constructor(recording: Recording, places: TextPlaces) {
-        this.words = recording.words.slice(recording.begin, recording.end);
-        this.numbers = new Float32Array(this.words.buffer);
-        const extent = new Extent(places);
-        for (let begin = 0; begin < this.words.length;) {
-            const end = readCommand(this.words, this.numbers, begin, extent);
-            if (this.words[begin] !== PEN) {
-                const { left, top, right, bottom, width, colour, patterned } = extent;
-                this.items.push({ begin, end, left, top, right, bottom, width, colour, patterned });
-            }
-            begin = end;
+function roomFor(length: number): Words {
+    const words = new Uint32Array(length);
+    return { words, numbers: new Float32Array(words.buffer), length: 0 };
+}
+
+/** The latest paint, command by command. Most of a paint is what the one before was: only the rest is read. */
+export class DisplayList {
+    items: readonly Item[] = [];
+    private now = roomFor(0);
+    private before = roomFor(0);
+
+    constructor(private readonly places: TextPlaces) {}
+
+    /** Takes over the next paint. Where it draws otherwise than the one before. */
+    take(recording: Recording): Sides[] {
+        this.copy(recording);
+        const { items } = this;
+        const [head, tail] = this.agreeingEnds();
+        const shift = this.now.length - this.before.length;
+        const first = firstWhere(items, (item) => item.end > head);
+        const { fresh, next } = this.readFrom(first, this.before.length - tail, shift);
+        const damage = this.damage(items.slice(first, next), fresh);
+        const rest = items.slice(next);
+        for (const item of shift === 0 ? [] : rest) {
+            item.begin += shift;
+            item.end += shift;
         }
+        this.items = [...items.slice(0, first), ...fresh, ...rest];
+        return damage;
+    }
+
+    /** Forgets how far commands paint: the view or the font is another one. */
+    forget(): void {
+        this.items = [];
+        this.now.length = 0;
     }
 
     read({ begin }: Item, reader: RecordingReader): void {
-        readCommand(this.words, this.numbers, begin, reader);
+        readCommand(this.now.words, this.now.numbers, begin, reader);
     }
 
-    /** Where this list paints otherwise than the one before. */
-    damageSince(before: DisplayList): Sides[] {
-        const parts = new Parts();
-        const [old, now] = [before.items, this.items];
-        let oldEnd = old.length;
-        let nowEnd = now.length;
-        while (oldEnd > 0 && nowEnd > 0 && this.same(now[nowEnd - 1]!, before, old[oldEnd - 1]!)) {
-            --oldEnd;
-            --nowEnd;
+    private copy({ words, begin, end }: Recording): void {
+        const length = end - begin;
+        const room = this.before.words.length < length ? roomFor(2 * length) : this.before;
+        room.words.set(words.subarray(begin, end));
+        room.length = length;
+        this.before = this.now;
+        this.now = room;
+    }
+
+    /** How many words at the beginning and at the end are those of the paint before. */
+    private agreeingEnds(): [number, number] {
+        const { words: a, length: endA } = this.now;
+        const { words: b, length: endB } = this.before;
+        const most = Math.min(endA, endB);
+        let head = 0;
+        while (head < most && a[head] === b[head]) {
+            ++head;
         }
-        for (let i = 0, j = 0; i < oldEnd || j < nowEnd; ++i, ++j) {
-            if (i < oldEnd && j < nowEnd && this.same(now[j]!, before, old[i]!)) {
+        let tail = 0;
+        while (tail < most - head && a[endA - tail - 1] === b[endB - tail - 1]) {
+            ++tail;
+        }
+        return [head, tail];
+    }
+
+    /** Reads on behind the items that stay, until one is met that goes on as before: `next`. Those may begin where the
+     * words of the paint before do not differ any more, and stand `shift` words further on now. */
+    private readFrom(first: number, agreeing: number, shift: number): { fresh: Item[]; next: number } {
+        const { items } = this;
+        const { words, numbers, length } = this.now;
+        const fresh: Item[] = [];
+        const extent = new Extent(this.places);
+        const last = items[first - 1];
+        if (last !== undefined) {
+            extent.pen(last.width, last.colour, last.patterned);
+        }
+        let next = firstWhere(items, (item) => item.begin >= agreeing);
+        for (let begin = last?.end ?? 0; begin < length;) {
+            while (next < items.length && items[next]!.begin + shift < begin) {
+                ++next;
+            }
+            const old = items[next];
+            if (old !== undefined && old.begin + shift === begin && samePen(old, extent)) {
+                return { fresh, next };
+            }
+            const end = readCommand(words, numbers, begin, extent);
+            if (words[begin] !== PEN) {
+                const { left, top, right, bottom, width, colour, patterned } = extent;
+                fresh.push({ begin, end, left, top, right, bottom, width, colour, patterned });
+            }
+            begin = end;
+        }
+        return { fresh, next: items.length };
+    }
+
+    /** Where some commands paint otherwise than those that stood there before. */
+    private damage(old: readonly Item[], now: readonly Item[]): Sides[] {
+        const parts = new Parts();
+        for (let i = 0, j = 0; i < old.length || j < now.length; ++i, ++j) {
+            if (i < old.length && j < now.length && this.same(old[i]!, now[j]!)) {
                 continue;
             }
-            const [skipOld, skipNow] = this.agreement(before, i, oldEnd, j, nowEnd);
+            const [skipOld, skipNow] = this.agreement(old, i, now, j);
             old.slice(i, i + skipOld).forEach((item) => parts.add(item));
             now.slice(j, j + skipNow).forEach((item) => parts.add(item));
             i += skipOld;
@@ -145,34 +135,41 @@ export class DisplayList {
         return parts.list;
     }
 
-    /** How many commands of each list to leave out until both agree again. */
-    private agreement(before: DisplayList, i: number, oldEnd: number, j: number, nowEnd: number): [number, number] {
+    /** How many commands of each to leave out until both agree again. */
+    private agreement(old: readonly Item[], i: number, now: readonly Item[], j: number): [number, number] {
         for (let sum = 1; sum <= WINDOW; ++sum) {
             for (let skipOld = 0; skipOld <= sum; ++skipOld) {
                 const [a, b] = [i + skipOld, j + sum - skipOld];
-                if (a < oldEnd && b < nowEnd && this.same(this.items[b]!, before, before.items[a]!)) {
+                if (a < old.length && b < now.length && this.same(old[a]!, now[b]!)) {
                     return [skipOld, sum - skipOld];
                 }
             }
         }
-        return [oldEnd - i, nowEnd - j];
+        return [old.length - i, now.length - j];
     }
 
-    private same(item: Item, before: DisplayList, old: Item): boolean {
-        const length = item.end - item.begin;
-        if (
-            length !== old.end - old.begin ||
-            item.colour !== old.colour ||
-            item.width !== old.width ||
-            item.patterned !== old.patterned
-        ) {
+    private same(old: Item, now: Item): boolean {
+        const length = now.end - now.begin;
+        if (length !== old.end - old.begin || !samePen(old, now)) {
             return false;
         }
         for (let i = 0; i < length; ++i) {
-            if (this.words[item.begin + i] !== before.words[old.begin + i]) {
+            if (this.now.words[now.begin + i] !== this.before.words[old.begin + i]) {
                 return false;
             }
         }
         return true;
     }
+}
+
+type Pen = Pick<Item, "width" | "colour" | "patterned">;
+
+function samePen(one: Pen, other: Pen): boolean {
+    return one.width === other.width && one.colour === other.colour && one.patterned === other.patterned;
+}
+
+/** The first place of an ascending list at which a condition begins to hold. */
+function firstWhere<T>(list: readonly T[], holds: (item: T) => boolean): number {
+    const index = list.findIndex(holds);
+    return index < 0 ? list.length : index;
 }

@@ -25,6 +25,7 @@ export interface RuleCanvasEvents {
 /** An event target that knows the details of its events. */
 export class TypedEvents extends EventTarget {
     private readonly queue: Event[] = [];
+    private readonly heard = new Set<string>();
     private depth = 0;
 
     /** Listens to one of the events. */
@@ -39,6 +40,7 @@ export class TypedEvents extends EventTarget {
         options?: boolean | AddEventListenerOptions,
     ): void;
     override addEventListener(type: string, listener: unknown, options?: boolean | AddEventListenerOptions): void {
+        this.heard.add(type);
         super.addEventListener(type, listener as EventListener, options);
     }
 
@@ -49,8 +51,16 @@ export class TypedEvents extends EventTarget {
         return () => this.removeEventListener(type, heard as unknown as EventListener);
     }
 
+    /** @internal Whether anybody has ever listened to an event; nothing is made of one that nobody hears. */
+    isHeard(type: keyof RuleCanvasEvents): boolean {
+        return this.heard.has(type);
+    }
+
     /** @internal Keeps an event until the outermost `whole` ends. */
     emit<K extends keyof RuleCanvasEvents>(type: K, detail: RuleCanvasEvents[K]): void {
+        if (!this.isHeard(type)) {
+            return;
+        }
         this.queue.push(new CustomEvent(type, { detail }));
         if (this.depth === 0) {
             this.flush();

@@ -44,17 +44,21 @@ export class Gestures implements InputSink {
             this.noticePoints(before);
             this.noticeSpot();
             this.takeDeletedAway();
-            this.model.noticeDrawing();
+            this.model.drawing.notice();
         });
         if (code !== MOUSE.moved) {
-            this.model.selectionTouched();
+            this.model.selection.touched();
+        }
+        this.board.moving = code === MOUSE.moved && this.model.drawing.hasMouse;
+        if (code === MOUSE.moved && !this.board.moving) {
+            this.board.hover(at);
         }
         this.showCursor();
         this.board.requestFrame();
     }
 
     aim(at: Point): Point {
-        if (this.model.drawn !== null) {
+        if (this.model.drawing.rule !== null) {
             return at;
         }
         const recording = this.board.host.recording();
@@ -73,7 +77,7 @@ export class Gestures implements InputSink {
     }
 
     finish(): void {
-        if (this.model.drawn?.state === "drawing") {
+        if (this.model.drawing.rule?.state === "drawing") {
             this.mouse(MOUSE.rightDown, this.pointer);
             this.mouse(MOUSE.rightUp, this.pointer);
         }
@@ -84,7 +88,7 @@ export class Gestures implements InputSink {
             return;
         }
         this.events.whole(() => {
-            for (const rule of this.model.selection().filter((each) => !each.locked)) {
+            for (const rule of this.model.selection.rules.filter((each) => !each.locked)) {
                 this.model.remove(rule);
                 this.events.emit("delete", { rule });
             }
@@ -92,7 +96,7 @@ export class Gestures implements InputSink {
     }
 
     nudge(dx: number, dy: number): boolean {
-        const rule = this.model.selection()[0];
+        const rule = this.model.selection.rules[0];
         const configuration = rule && this.model.configurationOf(rule);
         if (
             !this.editable ||
@@ -153,7 +157,7 @@ export class Gestures implements InputSink {
 
     /** A spot is there after one click and says nothing of it. */
     private noticeSpot(): void {
-        const { drawn } = this.model;
+        const drawn = this.model.drawing.rule;
         if (drawn?.type === "SpotShape" && this.board.host.configuration(drawn.shape) !== "") {
             drawn.state = "complete";
             this.events.emit("state", { rule: drawn, from: "waiting", to: "complete" });
@@ -172,6 +176,7 @@ export class Gestures implements InputSink {
     private showCursor(): void {
         const overHandle = (): boolean =>
             nearestHandle(this.board.host.recording(), this.pointer, CURSOR_REACH) !== null;
-        this.board.canvas.style.cursor = this.model.drawn !== null ? "crosshair" : overHandle() ? "grab" : "default";
+        this.board.canvas.style.cursor =
+            this.model.drawing.rule !== null ? "crosshair" : overHandle() ? "grab" : "default";
     }
 }

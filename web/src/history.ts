@@ -1,4 +1,5 @@
-import type { RuleCanvas, Snapshot } from "./rule_canvas.js";
+import type { Snapshot } from "./documents.js";
+import type { RuleCanvas } from "./rule_canvas.js";
 
 /** Undo and redo for a canvas: remembers the rules after every change that the user or the program makes. */
 export class History {

@@ -134,11 +134,15 @@ export class Host {
         return this.core.UTF8ToString(this.core._HostConfiguration(this.host, shape)).trimEnd();
     }
 
-    /** The identities of the selected shapes, of every container. */
+    /** The identities of the selected shapes. */
     selected(): Set<number> {
-        const states: unknown = JSON.parse(this.core.UTF8ToString(this.core._AllStates()));
-        const selected = (states as { ShapeID: number; bSelShape: boolean }[] | null) ?? [];
-        return new Set(selected.filter((state) => state.bSelShape).map((state) => state.ShapeID >>> 0));
+        const begin = this.core._HostSelection(this.host) / 4 + 1;
+        return new Set(this.core.HEAPU32.subarray(begin, begin + this.core.HEAPU32[begin - 1]!));
+    }
+
+    /** Whether notifications are wanted: to write one takes the library as long as to make a shape. */
+    listen(listens: boolean): void {
+        this.core._HostListen(this.host, Number(listens));
     }
 
     forgetMeasures(): void {

@@ -1,5 +1,7 @@
 /** Rules of video analytics, drawn and edited in a browser. */
-export { RuleCanvas, type RuleCanvasOptions, type Snapshot } from "./rule_canvas.js";
+export { RuleCanvas } from "./rule_canvas.js";
+export type { RuleCanvasOptions } from "./canvas_options.js";
+export type { Snapshot } from "./documents.js";
 export { Rule } from "./rule.js";
 export type { AddOptions } from "./options.js";
 export { hexOf, type Colour, type RuleStyle } from "./style.js";

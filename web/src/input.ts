@@ -76,7 +76,8 @@ export class Input {
             return;
         }
         this.pointsWith(event.pointerType === "touch" ? "touch" : "mouse");
-        this.canvas.focus({ preventScroll: true });
+        // A ring round the canvas is for those who come by keyboard.
+        this.canvas.focus({ preventScroll: true, focusVisible: false } as FocusOptions);
         this.canvas.setPointerCapture(event.pointerId);
         if (event.pointerType === "touch") {
             const client: Point = [event.clientX, event.clientY];

@@ -18,18 +18,35 @@ export function isHandle(left: number, top: number, right: number, bottom: numbe
     return penWidth === HANDLE_PEN && isSide(right - left) && isSide(bottom - top);
 }
 
-/** The same rectangle in whole canvas pixels, so that its border cuts none. */
-function wholePixels({ left, top, right, bottom }: Sides, ratioX: number, ratioY: number): Sides {
+/** A rectangle of the view in whole canvas pixels, so that its border cuts none. */
+export function wholePixels({ left, top, right, bottom }: Sides, [x, y]: Point): Sides {
     return {
-        left: Math.floor(left * ratioX),
-        top: Math.floor(top * ratioY),
-        right: Math.ceil(right * ratioX),
-        bottom: Math.ceil(bottom * ratioY),
+        left: Math.floor(left * x),
+        top: Math.floor(top * y),
+        right: Math.ceil(right * x),
+        bottom: Math.ceil(bottom * y),
     };
+}
+
+/** A canvas that shows the view or a part of it. */
+export interface Sheet {
+    readonly context: CanvasRenderingContext2D;
+    /** Where its top left lies in the view, in canvas pixels. */
+    readonly x: number;
+    readonly y: number;
+}
+
+/** How pixels of the view are shown. */
+export interface Scale {
+    /** Canvas pixels for a pixel of the view. */
+    readonly ratio: Point;
+    /** Handles are drawn so many times as large. */
+    readonly handles: number;
 }
 
 /** Draws a recording on a 2D canvas. Strokes of one pen are gathered into one path. */
 export class Painter implements RecordingReader {
+    private context!: CanvasRenderingContext2D;
     private width = 1;
     private colour = 0;
     private patterned = false;
@@ -37,20 +54,18 @@ export class Painter implements RecordingReader {
     private handleScale = 1;
 
     constructor(
-        private readonly context: CanvasRenderingContext2D,
         private readonly texts: TextPen,
         private readonly places: TextPlaces,
     ) {}
 
-    /** Draws a list: in the parts of the view that are given, or everywhere. `ratio` is canvas pixels for a pixel of the
-     * view, handles are drawn `handleScale` times as large. */
-    draw(list: DisplayList, parts: readonly Sides[] | null, [ratioX, ratioY]: Point, handleScale: number): void {
-        const { context } = this;
-        this.handleScale = handleScale;
+    /** Draws a list on a sheet: in the parts of the view that are given, or everywhere. */
+    draw(list: DisplayList, parts: readonly Sides[] | null, { context, x, y }: Sheet, { ratio, handles }: Scale): void {
+        this.context = context;
+        this.handleScale = handles;
         context.save();
-        context.setTransform(1, 0, 0, 1, 0, 0);
-        this.clear(parts?.map((part) => wholePixels(part, ratioX, ratioY)) ?? null);
-        context.setTransform(ratioX, 0, 0, ratioY, 0, 0);
+        context.setTransform(1, 0, 0, 1, -x, -y);
+        this.clear(parts?.map((part) => wholePixels(part, ratio)) ?? null);
+        context.setTransform(ratio[0], 0, 0, ratio[1], -x, -y);
         context.beginPath();
         for (const item of list.items) {
             if (parts === null || parts.some((part) => overlap(part, item))) {
@@ -77,9 +92,10 @@ export class Painter implements RecordingReader {
     /** Empties the canvas, or parts of it, to which drawing is limited then. */
     private clear(parts: readonly Sides[] | null): void {
         const { context } = this;
-        const { width, height } = context.canvas;
         if (parts === null) {
-            context.clearRect(0, 0, width, height);
+            const { width, height } = context.canvas;
+            const { e: x, f: y } = context.getTransform();
+            context.clearRect(-x, -y, width, height);
             return;
         }
         context.beginPath();

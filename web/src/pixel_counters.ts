@@ -34,7 +34,6 @@ class BoxReader implements RecordingReader {
     ellipse(): void {}
     fillEllipse(): void {}
     fillRectangle(): void {}
-    caption(): void {}
 }
 
 /** Where the pixel counters of a recording are, each by the text "width*height" that it shows: their geometry is a size

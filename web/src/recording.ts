@@ -17,8 +17,9 @@ export interface RecordingReader {
     ellipse(left: number, top: number, right: number, bottom: number): void;
     fillEllipse(left: number, top: number, right: number, bottom: number, colour: number): void;
     fillRectangle(left: number, top: number, right: number, bottom: number, colour: number): void;
-    text(x: number, y: number, size: number, colour: number, text: string): void;
-    caption(x: number, y: number, colour: number, clip: readonly number[], text: string): void;
+    /** Texts are read for whoever wants them. */
+    text?(x: number, y: number, size: number, colour: number, text: string): void;
+    caption?(x: number, y: number, colour: number, clip: readonly number[], text: string): void;
 }
 
 export const PEN = 1;
@@ -58,10 +59,10 @@ export function readCommand(w: Uint32Array, n: Float32Array, at: number, reader:
             reader.fillRectangle(n[i]!, n[i + 1]!, n[i + 2]!, n[i + 3]!, w[i + 4]!);
             return i + 5;
         case TEXT:
-            reader.text(n[i]!, n[i + 1]!, n[i + 2]!, w[i + 3]!, textAt(i + 4));
+            reader.text?.(n[i]!, n[i + 1]!, n[i + 2]!, w[i + 3]!, textAt(i + 4));
             return afterText(i + 4);
         case CAPTION:
-            reader.caption(n[i]!, n[i + 1]!, w[i + 2]!, [n[i + 3]!, n[i + 4]!, n[i + 5]!, n[i + 6]!], textAt(i + 7));
+            reader.caption?.(n[i]!, n[i + 1]!, w[i + 2]!, [n[i + 3]!, n[i + 4]!, n[i + 5]!, n[i + 6]!], textAt(i + 7));
             return afterText(i + 7);
         default:
             throw new Error(`The recording holds the unknown command ${w[at]}`);

@@ -1,5 +1,7 @@
 import { Board } from "./board.js";
+import type { RuleCanvasOptions } from "./canvas_options.js";
 import { loadCore, type CoreModule, type Library } from "./core.js";
+import { Documents, type Snapshot } from "./documents.js";
 import { RuleCanvasError } from "./errors.js";
 import { TypedEvents } from "./events.js";
 import type { Size } from "./geometry.js";
@@ -8,29 +10,8 @@ import { helpFor } from "./help.js";
 import { Input } from "./input.js";
 import { Model } from "./model.js";
 import { recordOf, type AddOptions } from "./options.js";
-import type { Box } from "./pixel_counters.js";
-import type { RuleRecord } from "./record.js";
 import type { Rule } from "./rule.js";
-import { emptyFile, readRulesFile, writeRulesFile, type RulesFile } from "./rules_file.js";
-
-/** How a canvas is made. */
-export interface RuleCanvasOptions {
-    /** The WebAssembly file, when it does not lie beside the module. */
-    wasm?: string | URL;
-    /** The view that the canvas shows; rules of other views are kept and not shown. 0 when absent. */
-    view?: number;
-    /** The size of the picture in pixels of its own, when the element cannot tell. */
-    picture?: Size;
-    /** Whether the user may edit. True when absent. */
-    editable?: boolean;
-}
-
-/** All rules as they were at one moment; made by `RuleCanvas.snapshot`. */
-export interface Snapshot {
-    readonly records: readonly RuleRecord[];
-    /** Where pixel counters were, in parts of the view: their geometry tells no place. */
-    readonly boxes: ReadonlyMap<string, Box>;
-}
+import { writeRulesFile, type RulesFile } from "./rules_file.js";
 
 /** A canvas on which a user draws and edits rules.
  *
@@ -43,7 +24,7 @@ export class RuleCanvas extends TypedEvents {
     private readonly gestures: Gestures;
     private readonly input: Input;
     private readonly ownsCanvas: boolean;
-    private file: RulesFile = emptyFile();
+    private readonly documents: Documents;
     private destroyed = false;
 
     /** Lays a canvas over a picture, a video or any other element, and keeps it there. */
@@ -73,10 +54,11 @@ export class RuleCanvas extends TypedEvents {
         this.board = new Board(core, canvas, target, view, options.picture, {
             notified: (text) => this.model.notified(text),
             captured: (taken) => this.model.capture(taken),
-            resized: () => this.model?.forgetConfigurations(),
-            beforeFrame: () => this.model.readSelection(),
+            resized: () => this.model?.geometries.forgetAll(),
+            beforeFrame: () => this.model.selection.read(),
         });
         this.model = new Model(this.board, this, view);
+        this.documents = new Documents(this.model);
         this.gestures = new Gestures(this.board, this.model, this, view);
         this.gestures.editable = options.editable ?? true;
         canvas.tabIndex = Math.max(canvas.tabIndex, 0);
@@ -110,12 +92,12 @@ export class RuleCanvas extends TypedEvents {
 
     /** The rule that the user is drawing or is to draw. */
     get drawing(): Rule | null {
-        return this.model.drawn;
+        return this.model.drawing.rule;
     }
 
     /** The selected rules; a press may select one that lies under another. */
     get selection(): readonly Rule[] {
-        return this.model.selection();
+        return this.model.selection.rules;
     }
 
     /** The first selected rule. */
@@ -160,13 +142,13 @@ export class RuleCanvas extends TypedEvents {
                 if (record.configuration) {
                     model.settle([rule]);
                 } else {
-                    model.startDrawing(rule);
+                    model.drawing.start(rule);
                 }
                 if (options.selected ?? !record.configuration) {
                     model.select(rule);
                 } else {
                     this.board.host.select(rule.shape, false);
-                    model.selectionTouched();
+                    model.selection.touched();
                 }
                 return rule;
             });
@@ -180,9 +162,7 @@ export class RuleCanvas extends TypedEvents {
 
     /** Removes all rules. */
     clear(): void {
-        this.model.drawn = null;
-        this.model.remake(0, [], new Map());
-        this.file = emptyFile();
+        this.documents.clear();
     }
 
     /** Selects one rule alone, or none. */
@@ -215,22 +195,12 @@ export class RuleCanvas extends TypedEvents {
      * `RuleCanvasError` that names every refused rule. No rule is selected then. */
     load(source: string | object): void {
         this.requireAlive();
-        const file = readRulesFile(source);
-        this.whole(() => {
-            this.model.cancelDrawing();
-            this.model.remake(
-                0,
-                file.rules.map((record) => ({ record })),
-                new Map(),
-            );
-            this.file = file;
-        });
+        this.whole(() => this.documents.load(source));
     }
 
     /** The rules as a rules file. A rule that is being drawn is left out. */
     save(): RulesFile {
-        const { width, height } = this.picture;
-        return { ...this.file, picture: { ...this.file.picture, width, height }, rules: this.snapshotRecords() };
+        return this.documents.save(this.picture);
     }
 
     /** The text of `save`. */
@@ -240,28 +210,16 @@ export class RuleCanvas extends TypedEvents {
 
     /** All rules as they are now, for `restore`. A rule that is being drawn is left out. */
     snapshot(): Snapshot {
-        return { records: this.snapshotRecords(), boxes: this.model.counterBoxes() };
+        return this.documents.snapshot();
     }
 
     /** Brings the rules of a snapshot back. A rule that keeps its name and type stays the same object, and selected. */
-    restore({ records, boxes }: Snapshot): void {
-        this.whole(() => {
-            this.model.cancelDrawing();
-            const current = this.snapshotRecords().map((record) => JSON.stringify(record));
-            const changed = records.findIndex((record, index) => JSON.stringify(record) !== current[index]);
-            const from = changed < 0 ? records.length : changed;
-            const wanted = records.slice(from).map((record) => {
-                const rule = this.model.set.find(record.name);
-                return {
-                    record,
-                    rule: rule?.type === record.type && this.rules.indexOf(rule) >= from ? rule : undefined,
-                };
-            });
-            this.model.remake(from, wanted, boxes);
-        });
+    restore(snapshot: Snapshot): void {
+        this.whole(() => this.documents.restore(snapshot));
     }
 
-    /** Draws at once instead of with the next frame. */
+    /** Draws at once instead of with the next frame, and all of it on `canvas`: what changes under the pointer is otherwise
+     * drawn on a smaller canvas above it. Call it before you copy the picture. */
     render(): void {
         this.board.render();
     }
@@ -276,10 +234,6 @@ export class RuleCanvas extends TypedEvents {
                 this.canvas.remove();
             }
         }
-    }
-
-    private snapshotRecords(): RuleRecord[] {
-        return this.rules.filter((rule) => rule !== this.drawing).map((rule) => this.model.recordOf(rule));
     }
 
     private requireAlive(): void {

@@ -49,8 +49,6 @@ class Search implements RecordingReader {
     }
 
     fillRectangle(): void {}
-    text(): void {}
-    caption(): void {}
 
     private offer(place: Point): void {
         const distance = (place[0] - this.at[0]) ** 2 + (place[1] - this.at[1]) ** 2;

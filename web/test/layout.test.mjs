@@ -205,12 +205,7 @@ viewTest("the library's own functions are within reach", {}, async (page) => {
 viewTest("what is drawn in parts is what is drawn as a whole", { deviceScaleFactor: 1.5 }, async (page) => {
     for (const [type, name, points, more] of [
         ["Rect", "cells", "60,60 420,300", { style: { mosaic: 16 } }],
-        [
-            "Polygon",
-            "field",
-            "100,100 500,120 450,400 150,380",
-            { direction: 2, style: { thickness: 3, unselectedThickness: 1 } },
-        ],
+        ["Polygon", "field", "100,100 500,120 450,400 150,380", { style: { thickness: 3, unselectedThickness: 1 } }],
         ["XLineShape", "wire", "50,250 400,230 700,300", { direction: 2 }],
         ["OvalShape", "tree", "300,200 600,350"],
         ["SpotShape", "lamp", "200,200", { mode: "solid" }],
@@ -218,29 +213,32 @@ viewTest("what is drawn in parts is what is drawn as a whole", { deviceScaleFact
     ]) {
         await add(page, { type, name, caption: name, points: at(points), ...more });
     }
-    /** Canvas pixels that a whole drawing changes by more than the smoothing of a cut line does, and those that differ from the last call's. */
+    /** Pixels that a whole drawing changes by more than the smoothing of a cut line does; that the drag changed; canvases. */
     const compare = () =>
         page.evaluate(async () => {
             const { canvas, board } = window.canvas;
             const pixels = () => {
-                const copy = new OffscreenCanvas(canvas.width, canvas.height).getContext("2d", {
-                    willReadFrequently: true,
-                });
+                const copy = new OffscreenCanvas(canvas.width, canvas.height).getContext("2d");
                 copy.fillStyle = "#808080";
                 copy.fillRect(0, 0, canvas.width, canvas.height);
-                copy.drawImage(canvas, 0, 0);
+                for (const part of canvas.parentElement.querySelectorAll("canvas")) {
+                    const { left, top } = part.getBoundingClientRect();
+                    copy.drawImage(part, left * devicePixelRatio, top * devicePixelRatio);
+                }
                 return copy.getImageData(0, 0, canvas.width, canvas.height).data;
             };
             const differing = (one, other) =>
                 one.filter((part, index) => Math.abs(part - (other?.[index] ?? 0)) > 48).length;
             await new Promise((done) => requestAnimationFrame(() => setTimeout(done)));
             const inParts = pixels();
+            const parts = canvas.parentElement.querySelectorAll("canvas").length;
             board.invalidate();
             board.render();
             const changed = differing(inParts, window.lastPixels);
             window.lastPixels = inParts;
-            return [differing(inParts, pixels()), changed];
+            return [differing(inParts, pixels()), changed, parts];
         });
+    const used = new Set();
     for (const [from, to] of [
         "440,380 500,360",
         "350,280 300,320",
@@ -250,8 +248,10 @@ viewTest("what is drawn in parts is what is drawn as a whole", { deviceScaleFact
         "250,330 280,300",
     ].map(at)) {
         await drag(page, from, to, 3);
-        const [wrong, changed] = await compare();
+        const [wrong, changed, parts] = await compare();
+        used.add(parts);
         equal(wrong, 0, `wrong pixels after the drag from ${from}`);
         isTrue(changed > 0, `the drag from ${from} changed the picture`);
     }
+    isTrue(used.has(2), "a drag on a canvas of its own");
 });
