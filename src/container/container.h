@@ -152,7 +152,7 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     mutable std::mutex tipMutex;
     std::map<ViewID, std::string> tips;
     TextStyle containerTextStyle{OpaqueColour(255, 255, 0), 0.0F, "STHeitiSC-Light"};
-    HostObject host;
+    HostCalls host;
     /// Held while shapes are inserted, deleted or refitted, also across their calls: the thread that holds it may call
     /// back.
     platform::ContainerMutex containerMutex;

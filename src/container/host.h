@@ -9,9 +9,9 @@
 namespace rulecanvas {
 
 /// The object that the host gave at creation; null is never called.
-class HostObject {
+class HostCalls {
   public:
-    explicit HostObject(void* hostObject) : host(hostObject) {}
+    explicit HostCalls(void* hostObject) : host(hostObject) {}
 
     void Forget() { host = nullptr; }
     /// `place` is that of the operation in the host's table.
