@@ -95,7 +95,9 @@ def document(results):
         "- A press is a press and its release. A figure that is pressed is the one a walk over all would reach last.\n"
         "- Figures are loaded into an empty container. Deleting pauses once, 10 ms long, for a paint on another thread; that "
         "pause is left out.\n"
-        "- The surface takes the calls and draws nothing; both sides call the same one equally often.\n"
+        "- The surface takes the calls and draws nothing; both sides call the same one equally often. It stands in a shared "
+        "library together with the bare work, as toolkits do: on a processor where a call between a program and a library far "
+        "away from it in memory takes longer, it takes longer for both sides or for neither.\n"
         "- Memory is what the heap holds more after loading, a press and a paint. A few figures carry the container's tables.",
     ]
     parts += [
@@ -103,10 +105,14 @@ def document(results):
         "- A press looks up two strips of a table, so many figures cost it less than one pass over them; a few cost it the "
         "same as many.\n"
         "- A paint copies each figure under its lock and draws from the copy: no lock is held while the host draws, and a figure "
-        "may be edited or deleted meanwhile.\n"
+        "may be edited or deleted meanwhile. Of the 20 ns that a polygon takes beyond the bare work the lock is 5 and the copy 2 "
+        "(measured by leaving each out); the rest is spread over the walk, the checks and the calls of drawing one figure, none of "
+        "which a profile shows with more than 3. Drawing without the lock would need a second, unchanging form of every "
+        "figure: some 200 bytes more.\n"
         "- A drag step tests that no edges cross unless the step moves every corner without rounding.\n"
         "- A figure's memory is its points, its names, its lock and its places in the lists of its container.\n"
-        "- Most of the size of the DLL is the C++ library's streams, through which JsonCpp reads numbers and writes texts.",
+        "- Of the DLL's 1.4 MB, 0.2 are this library's code and 0.2 JsonCpp's; 0.8 are the C++ library's streams and locales, which "
+        "JsonCpp needs to read a number and to write a message, and which come as a whole.",
     ]
     if sizes():
         parts += ["## Size", "\n".join(f"- {line}" for line in sizes())]
