@@ -53,6 +53,18 @@ TEST(Callbacks, LetsTheLatestWordOfTheHostStand) {
     }
 }
 
+TEST(Callbacks, ARectangleIsStillDrawnWhileTheMouseIsGivenBack) {
+    using Case = std::array<const char*, 2>;
+    for (const auto& [gesture, heard] : {Case{"drag 100 100 200 200", "on redraw off 2>3"}, Case{"click 100 100", "on off"}}) {
+        ScenarioHost host;
+        host.Add("Rect");
+        host.TakeLog();
+        ActInsideOf(host, "capture off", 1, [&] { host.Press(150, 150); });
+        Act(host, gesture);
+        EXPECT_EQ(Heard(host), heard) << "the press takes hold of nothing";
+    }
+}
+
 TEST(Callbacks, AStepDoesNotBringBackTheFigureThatTheHostReplaced) {
     for (const char* type : {"Rect", "LineShape"}) {
         for (int asked = 1; asked <= 6; ++asked) {
