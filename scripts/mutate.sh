@@ -4,7 +4,8 @@
 #
 # usage: scripts/mutate.sh [COUNT [SEED [PERCENT]]]
 # Samples COUNT (300) changes; the same SEED (1) samples the same ones. Fails when less than PERCENT (92) are noticed. Works
-# on copies under build/mutate, two at a time, about three seconds a change. The pauses of ending figures are skipped.
+# on copies under build/mutate, two at a time, a few seconds a change, a minute when all include it. The pauses of ending
+# figures are skipped.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)

@@ -218,8 +218,9 @@ TEST(OwnedRectangle, MustCoverItsCropLimit) {
         ShapeState during;
     };
     for (const Case& c :
-         {Case{{150, 150}, {139, 150}, {145, 150}, Adjusting}, Case{{150, 150}, {150, 139}, {150, 145}, Adjusting},
-          Case{{50, 50}, {55, 61}, {50, 55}, Adjusting}, Case{{100, 100}, {111, 100}, {105, 95}, Moving}}) {
+         {Case{{150, 150}, {139, 150}, {140, 150}, Adjusting}, Case{{150, 150}, {150, 139}, {150, 140}, Adjusting},
+          Case{{50, 50}, {50, 61}, {50, 60}, Adjusting}, Case{{50, 50}, {61, 50}, {60, 50}, Adjusting},
+          Case{{100, 100}, {111, 100}, {110, 90}, Moving}}) {
         owned.Press(c.press, Inside);
         owned.Send(RULECANVAS_MOUSE_LEFT_UP, c.refused);
         EXPECT_EQ(owned.shape->GetState(), c.during) << "the drag goes on";
