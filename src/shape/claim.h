@@ -8,14 +8,16 @@ namespace rulecanvas {
 
 /// Where a shape may answer a press. It is asked itself only there: a claim may be too wide, never too narrow.
 struct Claim {
-    float left = 0.0F;
-    float top = 0.0F;
-    float right = 0.0F;
-    float bottom = 0.0F;
+    static constexpr float Endless = std::numeric_limits<float>::infinity();
+
+    float left = Endless;
+    float top = Endless;
+    float right = -Endless;
+    float bottom = -Endless;
     /// Beside these bounds the shape answers a left press, as one that lies outside.
     bool answersOutside = false;
 
-    static Claim Nowhere() { return Claim{Endless, Endless, -Endless, -Endless, false}; }
+    static Claim Nowhere() { return {}; }
     static Claim Everywhere() { return Claim{-Endless, -Endless, Endless, Endless, false}; }
     /// The bounds of the points and `reach` pixels more; everywhere when a point is no number.
     static Claim Around(const Points& points, float reach, bool answersOutside);
@@ -23,9 +25,6 @@ struct Claim {
     bool Holds(const PointF& point) const {
         return left <= point.x && point.x <= right && top <= point.y && point.y <= bottom;
     }
-
-  private:
-    static constexpr float Endless = std::numeric_limits<float>::infinity();
 };
 
 } // namespace rulecanvas
