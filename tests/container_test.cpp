@@ -238,6 +238,17 @@ TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
     EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
 }
 
+TEST(Container, FitsAFigureThatLearnsTheSizeOfItsViewLate) {
+    ScenarioHost host(0, 0);
+    host.rectOfViewZero = ClientRect{0, 0, 800, 600};
+    const ShapeID shape = host.Add("Rect");
+    host.Paint();
+    host.Resize(400, 300);
+    host.Drag({50, 50}, {100, 100});
+    host.Config(shape);
+    EXPECT_EQ(host.Paint()[1], "rect (100,100)-(200,200) w2 yellow");
+}
+
 TEST(Container, CollapsesNoFigureWhileTheViewHasNoSize) {
     for (const Type& type : Types) {
         ScenarioHost host;
