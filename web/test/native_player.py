@@ -11,7 +11,7 @@ from dataclasses import dataclass
 from pathlib import Path
 
 sys.path.append(str(Path(__file__).parents[2] / "examples/python_host"))
-import rulecanvas  # beside the example that it was written for
+import rulecanvas
 
 VIEW = 0
 DELETED, WAITING, DRAWING, COMPLETE = range(4)
