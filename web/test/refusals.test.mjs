@@ -2,7 +2,10 @@
 import { at, equal, isTrue, viewTest } from "./harness.mjs";
 
 const rule = (name, more = {}) => ({ type: "Rect", name, configuration: { [name]: at("100,100 900,900") }, ...more });
+const misnamed = rule("c", { configuration: { d: [] } });
 const file = (rules, more = {}) => ({ format: "rulecanvas-rules", version: 1, rules, ...more });
+
+const tooMany = Array.from({ length: 21 }, (_, i) => [i, i * i]);
 
 const WRONG_ADDS = [
     [{ type: "Circle" }, "unknown-type", "Circle"],
@@ -24,11 +27,7 @@ const WRONG_ADDS = [
     [{ type: "Rect", points: at("1,2 3,NaN") }, "wrong-value", "points"],
     [{ type: "Rect", points: at("1,2 300,400"), configuration: {} }, "wrong-option", "both"],
     [{ type: "Rect", name: "a", configuration: { b: at("1,1 500,500") } }, "configuration-refused", "geometry"],
-    [
-        { type: "Polygon", name: "p", configuration: { p: Array.from({ length: 21 }, (_, i) => [i, i * i]) } },
-        "configuration-refused",
-        "geometry",
-    ],
+    [{ type: "Polygon", name: "p", configuration: { p: tooMany } }, "configuration-refused", "geometry"],
     [{ type: "Rect", visible: "yes" }, "wrong-value", "visible"],
 ];
 
@@ -38,30 +37,24 @@ const WRONG_FILES = [
     [{ format: "other", version: 1, rules: [] }, "not-a-rules-file", "format"],
     [file([], { version: 2 }), "newer-version", "version 2"],
     [
-        file([rule("a"), rule("a"), rule("b", { type: "Nothing" }), rule("c", { configuration: { d: 1 } })]),
+        file([rule("a"), rule("a"), rule("b", { type: "Nothing" }), misnamed]),
         "rules-refused",
         'rule 2 "a"',
+        ["1 duplicate-name", "2 unknown-type"],
     ],
-    [file([rule("ok"), rule("c", { configuration: { d: [] } })]), "rules-refused", 'rule 2 "c"'],
+    [file([rule("ok"), misnamed]), "rules-refused", 'rule 2 "c"', ["1 configuration-refused"]],
 ];
 
-async function refused(page, call, argument) {
-    return page.evaluate(
-        ([call, argument]) => {
-            try {
-                window.canvas[call](argument);
-            } catch (problem) {
-                return {
-                    own: problem instanceof window.rulecanvas.RuleCanvasError,
-                    reason: problem.reason,
-                    message: problem.message,
-                    refused: problem.refused,
-                };
-            }
-            return null;
-        },
-        [call, argument],
-    );
+/** Calls in the page. */
+function refusal([call, argument]) {
+    try {
+        window.canvas[call](argument);
+    } catch (problem) {
+        const { reason, message } = problem;
+        const rules = problem.refused.map((rule) => `${rule.index} ${rule.reason}`);
+        return { own: problem instanceof window.rulecanvas.RuleCanvasError, reason, message, rules };
+    }
+    return null;
 }
 
 function refusalTest(name, run) {
@@ -73,54 +66,44 @@ function refusalTest(name, run) {
     });
 }
 
-/** Rows of what is given, the reason of its refusal, and a word of the message. */
+/** Rows of what is given, the reason of its refusal, a word of the message, and the refused rules of a file. */
 async function expectRefusals(page, call, rows) {
-    for (const [given, reason, word] of rows) {
-        const answer = await refused(page, call, given);
-        equal([answer?.own, answer?.reason], [true, reason], `the refusal of ${JSON.stringify(given)}`);
+    for (const [given, reason, word, rules = []] of rows) {
+        const answer = await page.evaluate(refusal, [call, given]);
+        const refused = [answer?.own, answer?.reason, answer?.rules];
+        equal(refused, [true, reason, rules], `the refusal of ${JSON.stringify(given)}`);
         isTrue(answer.message.includes(word), `"${answer.message}" names ${word}`);
     }
 }
 
 refusalTest("wrong options are refused with a reason", async (page) => {
     await expectRefusals(page, "add", WRONG_ADDS);
-    equal((await refused(page, "select", "nobody"))?.reason, "unknown-rule", "the refusal of an unknown name");
+    await expectRefusals(page, "select", [["nobody", "unknown-rule", "nobody"]]);
 });
 
-refusalTest("wrong rules files are refused whole", async (page) => {
-    await expectRefusals(page, "load", WRONG_FILES);
-    const { refused: named } = await refused(page, "load", WRONG_FILES[4][0]);
-    equal(
-        named.map(({ index, reason }) => `${index} ${reason}`),
-        ["1 duplicate-name", "2 unknown-type"],
-        "the refused rules",
-    );
-});
+refusalTest("wrong rules files are refused whole", (page) => expectRefusals(page, "load", WRONG_FILES));
 
 viewTest("a rules file keeps what this version does not know, in place", {}, async (page) => {
+    const lamp = { lamp: [[4096, 4096]], radius: 9 };
+    const tree = { tree: at("2048,1365 4096,3549") };
+    const far = { far: at("1433,1775 3481,3413") };
     const source = {
         future: { a: 1 },
         format: "rulecanvas-rules",
         version: 1,
         picture: { width: 800, height: 600 },
         rules: [
-            {
-                note: "a",
-                type: "SpotShape",
-                name: "lamp",
-                configuration: { lamp: [[4096, 4096]], radius: 9 },
-                more: [1],
-            },
+            { note: "a", type: "SpotShape", name: "lamp", configuration: lamp, more: [1] },
             {
                 type: "OvalShape",
                 name: "tree",
                 option: "word",
-                configuration: { tree: at("2048,1365 4096,3549") },
+                configuration: tree,
                 visible: true,
                 view: 0,
                 locked: true,
             },
-            { type: "Rect", name: "far", configuration: { far: at("1433,1775 3481,3413") }, view: 7, enabled: false },
+            { type: "Rect", name: "far", configuration: far, view: 7, enabled: false },
             { type: "Polygon", name: "later", configuration: null },
         ],
         last: [true, null],
