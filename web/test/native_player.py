@@ -7,8 +7,8 @@ usage: native_player.py LIBRARY TABLE
 import ctypes
 import json
 import sys
-from dataclasses import dataclass
 from pathlib import Path
+from types import SimpleNamespace
 
 sys.path.append(str(Path(__file__).parents[2] / "examples/python_host"))
 import rulecanvas
@@ -23,18 +23,6 @@ PRESSES = {
     "altrclick": [ALT_RIGHT_DOWN, RIGHT_UP],
 }
 ESCAPE = 27
-
-
-@dataclass
-class Rule:
-    type: str
-    name: str
-    option: str
-    configuration: str = ""
-    caption: str = ""
-    direction: str = ""
-    shape: int = 0
-    state: int = WAITING
 
 
 class Nowhere(rulecanvas.Surface):
@@ -80,13 +68,14 @@ class Player:
     def add(self, kind, name, option, configuration=""):
         if not configuration:
             self.remove_those_in(WAITING, DRAWING)
-        self.make(Rule(kind, name, "" if option == "-" else option, configuration))
+        self.make(SimpleNamespace(type=kind, name=name, option="" if option == "-" else option,
+                                  configuration=configuration, caption="", direction=""))
 
     def remove(self, name):
         self.remove_rule(self.named(name))
 
     def config(self, name):
-        print("config", name, self.configuration(self.named(name)))
+        print("config", name, self.container.configuration(self.named(name).shape))
 
     def caption(self, name, text):
         rule = self.named(name)
@@ -108,7 +97,7 @@ class Player:
     def reload(self):
         saved, self.rules = self.rules, []
         for rule in saved:
-            rule.configuration = self.configuration(rule)
+            rule.configuration = self.container.configuration(rule.shape)
             if rule.type == "OvalShape":
                 rule.configuration = rule.configuration.replace(rule.name, "OvalShape", 1)
             self.call("DeleteVideoAnalyseShape", rule)
@@ -131,7 +120,7 @@ class Player:
     def send(self, code, x, y):
         self.container.send(code, VIEW, x, y)
         for rule in self.rules:
-            if rule.type == "SpotShape" and rule.state == WAITING and self.configuration(rule):
+            if rule.type == "SpotShape" and rule.state == WAITING and self.container.configuration(rule.shape):
                 rule.state = COMPLETE
         self.remove_those_in(DELETED)
         self.container.paint(VIEW, self.surface)
@@ -156,9 +145,6 @@ class Player:
 
     def named(self, name):
         return next(rule for rule in self.rules if rule.name == name)
-
-    def configuration(self, rule):
-        return self.container.configuration(rule.shape)
 
 
 def main(library, table):
