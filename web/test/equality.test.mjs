@@ -79,7 +79,7 @@ async function playInBrowser(page) {
 viewTest("gestures on the module and on the native library say and write the same", { start: null }, async (page) => {
     const player = join(root, "web/test/native_player.py");
     const library = join(root, "build/native/librulecanvas.so");
-    const native = execFileSync("python3", ["-X", "utf8", player, library, table], { encoding: "utf8" });
+    const native = execFileSync("python3", ["-B", "-X", "utf8", player, library, table], { encoding: "utf8" });
     const expected = native.trimEnd().split("\n");
     const lines = await playInBrowser(page);
     for (const [index, line] of expected.entries()) {
