@@ -11,7 +11,7 @@
 #   lint    clang-format and clang-tidy
 #   demo    a virtual display, a video converter and the fonts of the demonstrations
 #   editor  a mouse and a keyboard for the virtual display, and pictures of it
-#   web     emscripten, a browser and the packages of web/package.json
+#   web     emscripten, a browser, Python and the packages of web/package.json
 # Without a group: build and test.
 set -euo pipefail
 
@@ -46,7 +46,7 @@ select_group() {
         demo) packages+=(xvfb xauth ffmpeg python3 fonts-liberation) ;;
         editor) packages+=(xvfb xdotool imagemagick fonts-liberation) ;;
         web)
-            packages+=(cmake ninja-build g++ dpkg-dev libjsoncpp-dev emscripten chromium fonts-liberation)
+            packages+=(cmake ninja-build g++ dpkg-dev libjsoncpp-dev emscripten chromium fonts-liberation python3)
             command -v node >/dev/null || packages+=(nodejs)
             command -v npm >/dev/null || packages+=(npm)
             want_jsoncpp=true

@@ -109,8 +109,8 @@ class Container:
         texts = [text.encode() for text in (label, kind, name, configuration, option)]
         return self.library.CreateMainVideoAnalyseShape(self.handle, view, *texts)
 
-    def send(self, code, view, x, y):
-        event = MouseEvent(code, view, 0, x, y, 0, 0)
+    def send(self, code, view, x, y, key=0):
+        event = MouseEvent(code, view, 0, x, y, 0, key)
         self._invoke(self.mouse, 0, ctypes.addressof(event))
 
     def paint(self, view, surface):

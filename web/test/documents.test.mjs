@@ -1,26 +1,20 @@
 // The samples of docs/web.md do what the page says.
 import { readFile } from "node:fs/promises";
 import { join } from "node:path";
-import { equal, isTrue, openPage, root, test } from "./harness.mjs";
+import { equal, isTrue, root, viewTest } from "./harness.mjs";
 
 const text = await readFile(join(root, "docs/web.md"), "utf8");
-const samplesOf = (language) => [...text.matchAll(new RegExp("```" + language + "\\n(.*?)```", "gs"))].map(([, sample]) => sample);
+const samplesOf = (language) =>
+    [...text.matchAll(new RegExp("```" + language + "\\n(.*?)```", "gs"))].map(([, sample]) => sample);
 
-test("the first page of the guide shows a canvas", async ({ browser, address }) => {
+viewTest("the first page of the guide shows a canvas", { start: null }, async (page) => {
     const [sample] = samplesOf("html");
-    const { page, complaints, close } = await openPage(browser, address, "test/view.html");
-    await page.waitForFunction("window.ready");
     const here = sample.replace("./rulecanvas/", "/rulecanvas/").replace(' src="camera.webm"', ""); // a reader's own
     await page.setContent(here);
     await page.waitForSelector("canvas");
-    equal(complaints, [], "what the browser says");
-    await close();
 });
 
-test("the samples of the guide run, or are refused as it says", async ({ browser, address }) => {
-    const { page, complaints, close } = await openPage(browser, address, "test/view.html");
-    await page.waitForFunction("window.ready");
-    await page.evaluate("start()");
+viewTest("the samples of the guide run, or are refused as it says", { start: {} }, async (page) => {
     const samples = samplesOf("js");
     isTrue(samples.length > 1, "that there are samples");
     for (const sample of samples) {
@@ -35,6 +29,4 @@ test("the samples of the guide run, or are refused as it says", async ({ browser
         }, sample);
         equal(refusal, reason === undefined ? [] : [reason, message], `what comes of ${sample}`);
     }
-    equal(complaints, [], "what the browser says");
-    await close();
 });

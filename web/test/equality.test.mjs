@@ -3,32 +3,25 @@
 import { execFileSync } from "node:child_process";
 import { readFileSync } from "node:fs";
 import { join } from "node:path";
-import { built, drag, openPage, root, test } from "./harness.mjs";
+import { drag, equal, isTrue, root, viewTest } from "./harness.mjs";
 
 const table = join(root, "web/test/gestures.txt");
 
-async function playMouse(page, command, at) {
-    const [x, y] = at;
-    if (command === "drag") {
-        await drag(page, [x, y], [at[2], at[3]]);
-        return;
-    }
-    await page.mouse.move(x, y);
-    if (command === "click") {
-        await page.mouse.down();
-        await page.mouse.up();
-    } else if (command === "rclick" || command === "altrclick") {
-        const alt = command === "altrclick";
-        await (alt && page.keyboard.down("Alt"));
-        await page.mouse.down({ button: "right" });
-        await page.mouse.up({ button: "right" });
-        await (alt && page.keyboard.up("Alt"));
-    } else if (command !== "move") {
-        throw new Error(`unknown step ${command}`);
-    }
-}
+/** Steps that a user takes. */
+const BY_HAND = {
+    move: (page, x, y) => page.mouse.move(x, y),
+    click: (page, x, y) => page.mouse.click(x, y),
+    rclick: (page, x, y) => page.mouse.click(x, y, { button: "right" }),
+    async altrclick(page, x, y) {
+        await page.keyboard.down("Alt");
+        await page.mouse.click(x, y, { button: "right" });
+        await page.keyboard.up("Alt");
+    },
+    drag: (page, x1, y1, x2, y2) => drag(page, [x1, y1], [x2, y2]),
+    escape: (page) => page.keyboard.press("Escape"),
+};
 
-/** Steps that a program takes; runs in the page. Whether it was one of them. */
+/** Steps that a program takes; runs in the page. */
 function playProgram([command, ...words]) {
     const { canvas, log } = window;
     const rule = canvas.rule(words[0]);
@@ -54,21 +47,15 @@ function playProgram([command, ...words]) {
             canvas.load(saved);
         },
     };
-    steps[command]?.(words);
-    return command in steps;
+    steps[command](words);
 }
 
-async function playStep(page, words) {
-    if (words[0] === "escape") {
-        await page.keyboard.press("Escape");
-    } else if (!(await page.evaluate(playProgram, words))) {
-        await playMouse(page, words[0], words.slice(1).map(Number));
-    }
+async function play(page, [command, ...words]) {
+    const byHand = BY_HAND[command];
+    await (byHand ? byHand(page, ...words.map(Number)) : page.evaluate(playProgram, [command, ...words]));
 }
 
-async function playInBrowser({ browser, address }) {
-    const { page, complaints, close } = await openPage(browser, address, "test/view.html");
-    await page.waitForFunction("window.ready");
+async function playInBrowser(page) {
     const lines = [];
     const takeLog = async () => lines.push(...(await page.evaluate(() => window.log.splice(0))));
     for (const line of readFileSync(table, "utf8").split("\n")) {
@@ -79,32 +66,26 @@ async function playInBrowser({ browser, address }) {
             await page.evaluate("start()");
         } else if (line.startsWith(" ")) {
             for (const step of line.split("|")) {
-                await playStep(page, step.trim().split(" "));
+                await play(page, step.trim().split(" "));
                 await takeLog();
             }
         }
     }
     await page.evaluate("window.canvas.destroy()");
     await takeLog();
-    await close();
-    return { lines: lines.filter((line) => /^(case|notify|capture|config) /.test(line)), complaints };
+    return lines.filter((line) => /^(case|notify|capture|config) /.test(line));
 }
 
-/** Notifications in both logs, so that an equality of nothing does not pass. */
-const LEAST_LINES = 300;
-
-test("gestures on the module and on the native library say and write the same", async (session) => {
-    const native = execFileSync(join(built, "native_player"), [table], { encoding: "utf8" }).trimEnd().split("\n");
-    const { lines, complaints } = await playInBrowser(session);
-    const at = native.findIndex((line, index) => line !== lines[index]);
-    if (at >= 0 || native.length !== lines.length) {
-        const before = native
-            .slice(0, Math.max(at, 0))
-            .reverse()
-            .find((line) => line.startsWith("case "));
-        throw new Error(`in "${before}", line ${at + 1} of ${native.length}: ${lines[at]} instead of ${native[at]}`);
+viewTest("gestures on the module and on the native library say and write the same", { start: null }, async (page) => {
+    const player = join(root, "web/test/native_player.py");
+    const library = join(root, "build/native/librulecanvas.so");
+    const native = execFileSync("python3", ["-B", "-X", "utf8", player, library, table], { encoding: "utf8" });
+    const expected = native.trimEnd().split("\n");
+    const lines = await playInBrowser(page);
+    for (const [index, line] of expected.entries()) {
+        const begun = expected.slice(0, index + 1).findLast((each) => each.startsWith("case "));
+        equal(lines[index], line, `line ${index + 1}, in ${begun}`);
     }
-    if (native.length < LEAST_LINES || complaints.length > 0) {
-        throw new Error(`${native.length} lines; complaints: ${complaints.join("; ")}`);
-    }
+    equal(lines.length, expected.length, "how many lines there are");
+    isTrue(lines.length >= 300, `that ${lines.length} lines are more than an equality of nothing`);
 });

@@ -7,23 +7,10 @@ import { serve } from "../tools/serve.mjs";
 export const root = resolve(dirname(fileURLToPath(import.meta.url)), "../..");
 export const built = join(root, "build/web");
 
-const FLAGS = [
-    "--no-sandbox",
-    "--disable-gpu",
-    "--disable-quic",
-    "--no-first-run",
-    "--disable-background-networking",
-    "--disable-component-update",
-    "--disable-sync",
-    "--autoplay-policy=no-user-gesture-required",
-];
+const FLAGS = ["--disable-gpu", "--disable-quic", "--autoplay-policy=no-user-gesture-required"];
 
 /** The tests in the order in which their files add them. */
 export const tests = [];
-
-export function test(name, run) {
-    tests.push({ name, run });
-}
 
 /** `folders` are served beside the page's; `flags` are for the browser. */
 export async function startBrowser({ folders = {}, flags = [] } = {}) {
@@ -39,7 +26,7 @@ export async function startBrowser({ folders = {}, flags = [] } = {}) {
     return { browser, address, end };
 }
 
-/** A page of its own for a test; everything that the browser complains about fails the test. */
+/** A page of its own, and everything that the browser complains about there. */
 export async function openPage(browser, address, path, settings = {}) {
     const context = await browser.newContext({ viewport: { width: 1000, height: 800 }, ...settings });
     const page = await context.newPage();
@@ -55,15 +42,23 @@ export async function openPage(browser, address, path, settings = {}) {
     return { page, complaints, close: () => context.close() };
 }
 
-/** A test on view.html, with rules over its picture; what the browser complains about fails it. */
-export function viewTest(name, { start = { picture: { width: 800, height: 600 } }, ...settings }, run) {
-    test(name, async ({ browser, address }) => {
-        const { page, complaints, close } = await openPage(browser, address, "test/view.html", settings);
-        await page.waitForFunction("window.ready");
-        await (start && page.evaluate((start) => window.start(start), start));
+/** A test on a page of its own; what the browser complains about fails it. */
+export function pageTest(name, path, settings, run) {
+    const openAndRun = async ({ browser, address }) => {
+        const { page, complaints, close } = await openPage(browser, address, path, settings);
         await run(page);
         equal(complaints, [], "the browser's complaints");
         await close();
+    };
+    tests.push({ name, run: openAndRun });
+}
+
+/** A test on view.html, with rules over its picture unless `start` is null. */
+export function viewTest(name, { start = { picture: { width: 800, height: 600 } }, ...settings }, run) {
+    pageTest(name, "test/view.html", settings, async (page) => {
+        await page.waitForFunction("window.ready");
+        await (start && page.evaluate((start) => window.start(start), start));
+        await run(page);
     });
 }
 
@@ -91,4 +86,12 @@ export async function drag(page, [x1, y1], [x2, y2], moves = 4) {
         await page.mouse.move(x1 + ((x2 - x1) * i) / moves, y1 + ((y2 - y1) * i) / moves);
     }
     await page.mouse.up();
+}
+
+/** Draws a rule point by point as the user does; a path ends with the right button. */
+export async function clicks(page, places, { path = false } = {}) {
+    for (const [x, y] of places) {
+        await page.mouse.click(x, y);
+    }
+    await (path && page.mouse.click(...places.at(-1), { button: "right" }));
 }

@@ -1,10 +1,12 @@
 // Sizes, pixel ratios, zoomed pages, fingers and keys.
 import { readFileSync } from "node:fs";
 import { join } from "node:path";
-import { at, drag, equal, isTrue, root, viewTest } from "./harness.mjs";
+import { at, clicks, drag, equal, isTrue, root, viewTest } from "./harness.mjs";
 
 const points = (page, name) => page.evaluate((name) => window.canvas.rule(name).points, name);
 const add = (page, options) => page.evaluate((options) => window.canvas.add(options).name, options);
+const restyle = (page, style) =>
+    page.evaluate((style) => void Object.assign(document.getElementById("picture").style, style), style);
 const expectPoints = async (page, name, expected, what) => equal(await points(page, name), at(expected), what);
 
 for (const ratio of [1, 1.5, 3]) {
@@ -12,31 +14,24 @@ for (const ratio of [1, 1.5, 3]) {
         await add(page, { type: "Rect", name: "gate" });
         await drag(page, [100, 100], [300, 200]);
         await expectPoints(page, "gate", "100,100 300,200", "the rectangle");
-        const [width, height] = await page.evaluate("[canvas.canvas.width, canvas.canvas.height]");
-        equal([width, height], [800 * ratio, 600 * ratio], "the canvas's own pixels");
+        const size = await page.evaluate("[canvas.canvas.width, canvas.canvas.height]");
+        equal(size, [800 * ratio, 600 * ratio], "the canvas's own pixels");
         // Two strokes of 200 and two of 100 CSS pixels, 2 thick, and four handles.
-        const painted = await page.evaluate("paintedPixels()");
-        isTrue(
-            painted > 1100 * ratio * ratio && painted < 2400 * ratio * ratio,
-            `${painted} painted pixels at ratio ${ratio}`,
-        );
+        const painted = (await page.evaluate("paintedPixels()")) / (ratio * ratio);
+        isTrue(painted > 1100 && painted < 2400, `that ${painted} pixels are painted`);
     });
 }
 
 viewTest("rules follow a picture that is resized", {}, async (page) => {
     await add(page, { type: "Polygon", name: "field", points: at("100,100 300,100 200,300") });
-    await page.evaluate(() =>
-        Object.assign(document.getElementById("picture").style, { width: "400px", height: "300px" }),
-    );
+    await restyle(page, { width: "400px", height: "300px" });
     await page.waitForFunction("canvas.size.width === 400");
     equal(await page.evaluate("[canvas.canvas.width, canvas.canvas.clientWidth]"), [400, 400], "the canvas");
     await drag(page, [100, 80], [110, 90]);
     await expectPoints(page, "field", "120,120 320,120 220,320", "the moved polygon in pixels of the picture");
-    await page.evaluate(() => Object.assign(document.getElementById("picture").style, { display: "none" }));
+    await restyle(page, { display: "none" });
     await page.evaluate("new Promise((done) => requestAnimationFrame(() => requestAnimationFrame(done)))");
-    await page.evaluate(() =>
-        Object.assign(document.getElementById("picture").style, { display: "", width: "800px", height: "600px" }),
-    );
+    await restyle(page, { display: "", width: "800px", height: "600px" });
     await page.waitForFunction("canvas.size.width === 800");
     await expectPoints(page, "field", "120,120 320,120 220,320", "the polygon after the picture was hidden");
 });
@@ -83,6 +78,13 @@ viewTest("fingers draw, finish by a long press, and take hold of handles", { has
     const client = await page.context().newCDPSession(page);
     const touch = (type, ...touchPoints) =>
         client.send("Input.dispatchTouchEvent", { type, touchPoints: touchPoints.map(([x, y]) => ({ x, y })) });
+    const dragFinger = async (from, ...places) => {
+        await touch("touchStart", from);
+        for (const place of places) {
+            await touch("touchMove", place);
+        }
+        await touch("touchEnd");
+    };
     await add(page, { type: "Polygon", name: "field" });
     for (const [x, y] of at("100,100 300,100 200,300")) {
         await page.touchscreen.tap(x, y);
@@ -94,18 +96,11 @@ viewTest("fingers draw, finish by a long press, and take hold of handles", { has
     await expectPoints(page, "field", "100,100 300,100 200,300", "the polygon: the long press gave no point");
 
     // 12 pixels beside the handle.
-    await touch("touchStart", [212, 300]);
-    for (const x of [222, 232, 252]) {
-        await touch("touchMove", [x, 320]);
-    }
-    await touch("touchEnd");
+    await dragFinger(...at("212,300 222,320 232,320 252,320"));
     await expectPoints(page, "field", "100,100 300,100 240,320", "the dragged vertex");
 
     await add(page, { type: "LineShape", name: "door" });
-    await touch("touchStart", [500, 100]);
-    await touch("touchMove", [520, 120]);
-    await touch("touchMove", [700, 300]);
-    await touch("touchEnd");
+    await dragFinger(...at("500,100 520,120 700,300"));
     await expectPoints(page, "door", "500,100 700,300", "the line");
     await page.evaluate("canvas.select(null)");
     await page.touchscreen.tap(608, 192);
@@ -114,15 +109,12 @@ viewTest("fingers draw, finish by a long press, and take hold of handles", { has
 
 viewTest("keys give up, finish, move and delete", {}, async (page) => {
     await add(page, { type: "Polygon", name: "half" });
-    await page.mouse.click(100, 100);
-    await page.mouse.click(300, 100);
+    await clicks(page, at("100,100 300,100"));
     await page.keyboard.press("Escape");
     equal(await page.evaluate("[canvas.rules.length, canvas.drawing]"), [0, null], "what is left after Escape");
 
     await add(page, { type: "Polygon", name: "field" });
-    for (const [x, y] of at("100,100 300,100 200,300")) {
-        await page.mouse.click(x, y);
-    }
+    await clicks(page, at("100,100 300,100 200,300"));
     await page.keyboard.press("Enter");
     equal(await page.evaluate("canvas.rule('field').state"), "complete", "the state after Enter");
     await page.mouse.click(200, 150);
@@ -144,11 +136,7 @@ viewTest("a gesture ends where the pointer was lost", {}, async (page) => {
     await page.mouse.move(100, 100);
     await page.mouse.down();
     await page.mouse.move(300, 200);
-    await page.evaluate(() =>
-        window.canvas.canvas.dispatchEvent(
-            new PointerEvent("pointercancel", { isPrimary: true, pointerType: "mouse" }),
-        ),
-    );
+    await page.dispatchEvent("canvas", "pointercancel", { isPrimary: true, pointerType: "mouse" });
     equal(await page.evaluate("canvas.rule('gate').state"), "complete", "the state");
     await page.mouse.move(500, 500);
     await page.mouse.up();
@@ -162,14 +150,11 @@ viewTest("undo and redo, with the place of a pixel counter", {}, async (page) =>
     await add(page, { type: "PixelCountShape", name: "person" });
     await drag(page, [100, 100], [180, 300]);
     await drag(page, [600, 150], [620, 170]);
-    const before = await page.evaluate("window.gate = canvas.rule('gate'), canvas.snapshot().records.length");
-    equal(before, 2, "the rules");
-    const boxOf = () =>
-        page.evaluate(() =>
-            Array.from(window.canvas.snapshot().boxes.get("person") ?? [], (part, i) =>
-                Math.round(part * (i % 2 ? 600 : 800)),
-            ),
-        );
+    await page.evaluate("window.gate = canvas.rule('gate'); 0");
+    const boxOf = async () => {
+        const parts = await page.evaluate("[...canvas.snapshot().boxes.get('person') ?? []]");
+        return parts.map((part, i) => Math.round(part * (i % 2 ? 600 : 800)));
+    };
     equal(await boxOf(), [100, 100, 180, 300], "where the pixel counter is");
     await page.evaluate("steps.undo()");
     await expectPoints(page, "gate", "500,100 700,200", "the rectangle after undo");
@@ -178,11 +163,8 @@ viewTest("undo and redo, with the place of a pixel counter", {}, async (page) =>
     await page.evaluate("steps.redo()");
     await expectPoints(page, "gate", "520,120 720,220", "the rectangle after redo");
     await page.evaluate("steps.undo(); steps.undo(); steps.undo()");
-    equal(
-        await page.evaluate("[canvas.rules.length, steps.canUndo, steps.canRedo]"),
-        [0, false, true],
-        "the beginning",
-    );
+    const left = await page.evaluate("[canvas.rules.length, steps.canUndo, steps.canRedo]");
+    equal(left, [0, false, true], "the beginning");
 });
 
 viewTest("the library's own functions are within reach", {}, async (page) => {
@@ -195,25 +177,27 @@ viewTest("the library's own functions are within reach", {}, async (page) => {
     const definition = readFileSync(join(root, "src/api/rulecanvas.def"), "utf8");
     const names = [...definition.matchAll(/^ +([A-Za-z]+) = /gm)].map((match) => match[1]);
     equal(names.length, 29, "functions of the library");
-    const missing = await page.evaluate(
-        (names) => names.filter((name) => typeof window.canvas.library.functions[name] !== "function"),
-        names,
-    );
-    equal(missing, [], "functions that are not there");
+    for (const name of names) {
+        equal(await page.evaluate(`typeof canvas.library.functions.${name}`), "function", name);
+    }
 });
 
+const FIGURES = [
+    ["Rect", "cells", "60,60 420,300", { style: { mosaic: 16 } }],
+    ["Polygon", "field", "100,100 500,120 450,400 150,380", { style: { thickness: 3, unselectedThickness: 1 } }],
+    ["XLineShape", "wire", "50,250 400,230 700,300", { direction: 2 }],
+    ["OvalShape", "tree", "300,200 600,350"],
+    ["SpotShape", "lamp", "200,200", { mode: "solid" }],
+    ["BigCrossShape", "aim", "350,150 250,330"],
+];
+const DRAGS =
+    "440,380 500,360 | 350,280 300,320 | 200,200 230,260 | 400,230 420,180 | 780,580 790,590 | 250,330 280,300";
+
 viewTest("what is drawn in parts is what is drawn as a whole", { deviceScaleFactor: 1.5 }, async (page) => {
-    for (const [type, name, points, more] of [
-        ["Rect", "cells", "60,60 420,300", { style: { mosaic: 16 } }],
-        ["Polygon", "field", "100,100 500,120 450,400 150,380", { style: { thickness: 3, unselectedThickness: 1 } }],
-        ["XLineShape", "wire", "50,250 400,230 700,300", { direction: 2 }],
-        ["OvalShape", "tree", "300,200 600,350"],
-        ["SpotShape", "lamp", "200,200", { mode: "solid" }],
-        ["BigCrossShape", "aim", "350,150 250,330"],
-    ]) {
+    for (const [type, name, points, more] of FIGURES) {
         await add(page, { type, name, caption: name, points: at(points), ...more });
     }
-    /** Pixels that a whole drawing changes by more than the smoothing of a cut line does; that the drag changed; canvases. */
+    /** Pixels that a whole drawing changes more than the smoothing of a cut line; that the drag changed; canvases. */
     const compare = () =>
         page.evaluate(async () => {
             const { canvas, board } = window.canvas;
@@ -239,14 +223,7 @@ viewTest("what is drawn in parts is what is drawn as a whole", { deviceScaleFact
             return [differing(inParts, pixels()), changed, parts];
         });
     const used = new Set();
-    for (const [from, to] of [
-        "440,380 500,360",
-        "350,280 300,320",
-        "200,200 230,260",
-        "400,230 420,180",
-        "780,580 790,590",
-        "250,330 280,300",
-    ].map(at)) {
+    for (const [from, to] of DRAGS.split(" | ").map(at)) {
         await drag(page, from, to, 3);
         const [wrong, changed, parts] = await compare();
         used.add(parts);

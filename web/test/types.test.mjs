@@ -1,5 +1,5 @@
 // Every type in a browser with a real mouse: drawn, edited, deleted, saved and loaded.
-import { at, drag, equal, isTrue, viewTest } from "./harness.mjs";
+import { at, clicks, drag, equal, isTrue, viewTest } from "./harness.mjs";
 
 /** How each type is drawn and then edited, and what its geometry is afterwards, in pixels of the view. */
 const CASES = [
@@ -20,19 +20,6 @@ const CASES = [
     ["SpotShape", "clicks", "100,100", "100,100 140,160", "140,160"],
 ];
 
-async function drawRule(page, gesture, places) {
-    if (gesture === "drag") {
-        await drag(page, ...places);
-        return;
-    }
-    for (const [x, y] of places) {
-        await page.mouse.click(x, y);
-    }
-    if (gesture === "path") {
-        await page.mouse.click(...places.at(-1), { button: "right" });
-    }
-}
-
 const log = (page) =>
     page.evaluate(() => window.log.splice(0).filter((line) => /^(create|change|delete|select)/.test(line)));
 
@@ -48,7 +35,7 @@ for (const [type, gesture, draw, edit, points, { member, count } = {}] of CASES)
         await log(page);
         equal(await painted(page), 0, "painted before it is drawn");
 
-        await drawRule(page, gesture, at(draw));
+        await (gesture === "drag" ? drag(page, ...at(draw)) : clicks(page, at(draw), { path: gesture === "path" }));
         isTrue((await log(page)).includes("create rule"), "the event of a drawn rule");
         isTrue((await painted(page)) > 20, "something is painted");
 
