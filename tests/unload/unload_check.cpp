@@ -1,13 +1,41 @@
 // Unloads the library, named by the first argument, while a container lives and its shape is being drawn: the library must
 // end them itself, without a word to the host, and leave nothing behind. Then the same again.
 
-#include "library.h"
 #include "rulecanvas/rulecanvas.h"
 
 #include <cstdio>
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
 
 namespace rulecanvas::test {
 namespace {
+
+#ifdef _WIN32
+using Library = HMODULE;
+constexpr auto Open = &LoadLibraryA;
+constexpr auto Close = &FreeLibrary;
+constexpr auto Find = &GetProcAddress;
+#else
+using Library = void*;
+constexpr auto Close = &dlclose;
+constexpr auto Find = &dlsym;
+
+Library Open(const char* path) {
+    return dlopen(path, RTLD_NOW);
+}
+#endif
+
+bool IsInMemory(const char* path) {
+#ifdef _WIN32
+    return GetModuleHandleA(path) != nullptr;
+#else
+    void* const found = dlopen(path, RTLD_NOW | RTLD_NOLOAD);
+    return found != nullptr && dlclose(found) == 0; // the look counts as a load of its own
+#endif
+}
 
 int captures = 0;
 
@@ -16,13 +44,11 @@ Bool32 RULECANVAS_THISCALL CountCapture(void* /*target*/, Bool32 /*take*/) {
     return 1;
 }
 
-template <class Function>
-Function* Find(void* library, const char* name) {
-    return reinterpret_cast<Function*>(FindFunction(library, name));
-}
-#define FIND(function) const auto function = Find<decltype(rulecanvas::function)>(library, #function)
+#define FIND(function)                                                                                                 \
+    const auto function =                                                                                              \
+        reinterpret_cast<decltype(&rulecanvas::function)>(reinterpret_cast<void*>(Find(library, #function)))
 
-void StartDrawing(void* library) {
+void StartDrawing(Library library) {
     FIND(CreateVideoAnalyseContainer);
     FIND(EnableVideoAnalyseContainer);
     FIND(SetCtrlContainerWinMouseCaptureDelegate);
@@ -32,8 +58,7 @@ void StartDrawing(void* library) {
     const CDelegate capture{&captures, reinterpret_cast<void*>(&CountCapture)};
     EnableVideoAnalyseContainer(container, 1);
     SetCtrlContainerWinMouseCaptureDelegate(container, &capture);
-    CreateMainVideoAnalyseShape(container, 1, "", "SpotShape", "", "",
-                                ""); // one that gives the capture back at its end
+    CreateMainVideoAnalyseShape(container, 1, "", "SpotShape", "", "", ""); // it gives the capture back at its end
     CreateMainVideoAnalyseShape(container, 2, "", "Rect", "rule", "", "");
     ContainerHandlerHolder mouse{nullptr, nullptr};
     GetContainerWinMouseEventHandler(container, &mouse);
@@ -44,13 +69,13 @@ void StartDrawing(void* library) {
 
 bool Run(const char* path) {
     captures = 0;
-    void* library = OpenLibrary(path);
+    Library library = Open(path);
     if (library == nullptr) {
         return false;
     }
     StartDrawing(library);
     const bool wasThere = IsInMemory(path);
-    CloseLibrary(library);
+    Close(library);
     return wasThere && captures == 1 && !IsInMemory(path);
 }
 
