@@ -15,6 +15,10 @@ constexpr const char* Level = "100,100 200,100";
 
 TEST(Gestures, OnRectangles) {
     Check({
+        {"Rect", "", "", "drag 100 100 200 200", "on redraw off 2>3", Box},
+        {"Rect", "", "", "drag 200 100 100 200", "on redraw off 2>3", Box},
+        {"Rect", "", "", "drag 200 200 100 100", "on redraw off 2>3", Box},
+        {"Rect", "", "", "drag 100 200 200 100", "on redraw off 2>3", Box},
         {"Rect", "", Box, "drag 104 96 50 60", Reshaped, "50,60 200,200"},
         {"Rect", "", Box, "drag 200 100 260 90", Reshaped, "100,90 260,200"},
         {"Rect", "", Box, "drag 200 200 9000 300", Reshaped, "100,100 8191,300"},
@@ -76,6 +80,16 @@ TEST(Gestures, OnCrosses) {
         {"CrossShape", "", three, "drag 105 95 50 50", dragged, "50,50 108,100 300,300"}, // in two boxes
         {"CrossShape", "", three, "drag 305.5 300 9 9", "", three},
         {"CrossShape", "3", "", "click 100 100 click 200 100 limits 2 0 click 300 100", "on on 2>3", "100,100 200,100"},
+    });
+}
+
+TEST(Gestures, OnSpots) {
+    Check({
+        // A click outside the view, then one inside it: nothing is reported, nothing follows the mouse.
+        {"SpotShape", "", "", "click -1 100 press 100 100 move 150 150 release 150 150", "on redraw", "100,100"},
+        {"SpotShape", "", "100,100", "press 103 104 move 113.7 104", "select on", "110,100"}, // by whole pixels
+        // A step out of the view is refused.
+        {"SpotShape", "", "110,100", "press 113 104 move 2 104 move 115 124 release 300 300", Moved, "112,120"},
     });
 }
 

@@ -25,7 +25,7 @@ struct GridScene {
         return container.CreateMainShape(0, "", type, "rule", config, "");
     }
     /// The only one.
-    ShapePtr Shape() { return *container.ShapesInOrder().begin(); }
+    ShapePtr OnlyShape() { return *container.ShapesInOrder().begin(); }
     void Send(uint32_t code, const PointF& at) { container.OnMouseEvent({code, 0, 0, at.x, at.y, 0, 0}); }
 
   private:
