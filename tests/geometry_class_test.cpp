@@ -112,6 +112,14 @@ TEST(Geometry, TheInsideOfARingDoesNotDependOnItsBeginning) {
         }
         std::reverse(ring.begin(), ring.end());
     }
+    // A corner at the height of the point, on either side or on both.
+    for (Points corner :
+         {Points{{0, 0}, {60, 30}, {0, 60}}, {{0, 30}, {60, 0}, {60, 60}}, {{30, 0}, {60, 30}, {0, 30}}}) {
+        for (int direction = 0; direction < 2; ++direction) {
+            EXPECT_FALSE(InPolygon(corner, {-1, 30}) || InPolygon(corner, {61, 30}));
+            std::reverse(corner.begin(), corner.end());
+        }
+    }
 }
 
 TEST(Geometry, KnowsWhichShiftsRound) {
