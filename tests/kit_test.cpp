@@ -79,12 +79,6 @@ void DrawOne(Person& person, const std::string& type) {
     }
 }
 
-std::filesystem::path Folder() {
-    const auto folder = std::filesystem::temp_directory_path() / "rulecanvas_kit_test";
-    std::filesystem::create_directories(folder);
-    return folder;
-}
-
 } // namespace
 
 TEST(RulesFile, RefusesWholeFilesAndSaysWhy) {
@@ -133,17 +127,19 @@ TEST(RulesFile, KeepsWhatItDoesNotKnow) {
 }
 
 TEST(RulesFile, ReplacesTheOldFileOrLeavesIt) {
-    const auto path = Folder() / "kept.rules.json";
+    const auto folder = std::filesystem::temp_directory_path() / "rulecanvas_kit_test";
+    std::filesystem::create_directories(folder);
+    const auto path = folder / "kept.rules.json";
     RulesFile file;
     std::string problem;
     ASSERT_TRUE(WriteRulesFile(path, file, problem)) << problem;
     file.rules.push_back(MakeRule("Rect", "gate", R"({"gate":[[1,2],[3,4]]})"));
     ASSERT_TRUE(WriteRulesFile(path, file, problem)) << problem;
     EXPECT_EQ(ReadRulesFile(path, problem)->rules, file.rules);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folder()), {}), 1);
-    EXPECT_FALSE(WriteRulesFile(Folder() / "nowhere" / "a.rules.json", file, problem));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
+    EXPECT_FALSE(WriteRulesFile(folder / "nowhere" / "a.rules.json", file, problem));
     EXPECT_FALSE(problem.empty());
-    std::filesystem::remove_all(Folder());
+    std::filesystem::remove_all(folder);
 }
 
 TEST(History, HasAnEnd) {

@@ -46,10 +46,9 @@ TEST(Line, IsDrawnWithTwoClicksAsWellAsInOneStroke) {
 }
 
 TEST(Line, BeginsInTheViewAndEndsThereToo) {
-    ScenarioHost host(800, 600);
-    const ShapeID shape = host.Add("LineShape");
-    host.container.ShowHandles(shape, false);
-    host.container.SetDirection(shape, 3); // a mark without arrows
+    FigureHost host("LineShape");
+    host.container.ShowHandles(host.shape, false);
+    host.container.SetDirection(host.shape, 3); // a mark without arrows
     host.Press(801, 300);
     EXPECT_EQ(host.TakeLog(), Lines{});
     host.Press(780, 300);
