@@ -16,6 +16,29 @@ char journal[Size];
 size_t length = 0;
 int failures = 0;
 
+#ifdef __i386__
+constexpr unsigned LargestStackOffset = 12;
+
+/// Calls `function` with a stack that stands `offset` bytes, a multiple of 4, below a multiple of 16: code of this
+/// compiler aligns it to 4 bytes only.
+__attribute__((naked)) void CallAtStackOffset(void(__cdecl*)(), unsigned) {
+    asm("pushl %ebp\n"
+        "movl %esp, %ebp\n"
+        "andl $-16, %esp\n"
+        "subl 12(%ebp), %esp\n"
+        "calll *8(%ebp)\n"
+        "movl %ebp, %esp\n"
+        "popl %ebp\n"
+        "retl");
+}
+#else
+constexpr unsigned LargestStackOffset = 0; // on 64-bit Windows the stack is always aligned to 16 bytes
+
+void CallAtStackOffset(void(__cdecl* function)(), unsigned) {
+    function();
+}
+#endif
+
 } // namespace
 
 void Write(const char* format, ...) {
@@ -56,27 +79,8 @@ void ExpectRectangle(ShapeID shape) {
                 shape, shape, shape);
 }
 
-#ifdef __i386__
-/// Calls `function` with a stack that stands `offset` bytes, a multiple of 4, below a multiple of 16: code of this
-/// compiler aligns it to 4 bytes only. On 64-bit Windows the stack is always aligned to 16 bytes.
-static __attribute__((naked)) void CallAtStackOffset(void(__cdecl*)(), unsigned) {
-    asm("pushl %ebp\n"
-        "movl %esp, %ebp\n"
-        "andl $-16, %esp\n"
-        "subl 12(%ebp), %esp\n"
-        "calll *8(%ebp)\n"
-        "movl %ebp, %esp\n"
-        "popl %ebp\n"
-        "retl");
-}
-#else
-static void CallAtStackOffset(void(__cdecl* function)(), unsigned) {
-    function();
-}
-#endif
-
 extern "C" void __cdecl Start() {
-    for (unsigned offset = 0; offset < 16; offset += 4) {
+    for (unsigned offset = 0; offset <= LargestStackOffset; offset += 4) {
         printf("stack at a multiple of 16, less %u\n", offset);
         CallAtStackOffset(&RunRawHost, offset);
         CallAtStackOffset(&RunHelperHost, offset);
