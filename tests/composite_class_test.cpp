@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace rulecanvas::test {
 namespace {
@@ -50,8 +51,9 @@ class Frame final : public CRectangleShape {
     }
 };
 
+std::shared_ptr<Frame> latest;
 const bool registered =
-    CShapeFactory::GetInstance().Register("Frame", []() -> ShapePtr { return std::make_shared<Frame>(); });
+    CShapeFactory::GetInstance().Register("Frame", []() -> ShapePtr { return latest = std::make_shared<Frame>(); });
 
 struct Frames : GridScene {
     std::shared_ptr<Frame> first = AddFrame();
@@ -64,13 +66,8 @@ struct Frames : GridScene {
     }
 
     std::shared_ptr<Frame> AddFrame() {
-        const ShapeID id = Add("Frame", Corners);
-        for (const ShapePtr& shape : container.ShapesInOrder()) {
-            if (shape->GetShapeId() == id) {
-                return std::static_pointer_cast<Frame>(shape);
-            }
-        }
-        return nullptr;
+        Add("Frame", Corners);
+        return std::exchange(latest, nullptr);
     }
 };
 

@@ -1,5 +1,4 @@
 #include "support/scenario_host.h"
-#include "support/types.h"
 
 #include <gtest/gtest.h>
 
@@ -177,23 +176,22 @@ TEST(Dispatch, GivesAPressToTheStrongestClaimAndToTheLowestIdOfEquals) {
 }
 
 TEST(Dispatch, FeedsEveryKindOfMoveToADragButOfItsOwnViewAlone) {
-    ScenarioHost host;
-    const ShapeID shape = host.Add("Rect", Square);
+    FigureHost host("Rect", Square);
     host.Send(RULECANVAS_MOUSE_LEFT_DOWN, 150, 150, TheView + 1);
     EXPECT_EQ(host.TakeLog(), Lines{});
     EXPECT_EQ(host.Paint(TheView + 1), Lines{});
-    const std::string before = host.Config(shape);
+    const std::string before = host.Config();
     host.Press(150, 150);
     host.Send(RULECANVAS_MOUSE_MOVED, 300, 300, TheView + 1);
     host.Send(RULECANVAS_MOUSE_LEFT_UP, 300, 300, TheView + 1);
     EXPECT_EQ(host.TakeLog(), (Lines{"select rule", "capture on"})) << "the drag goes on";
-    EXPECT_EQ(host.Config(shape), before);
+    EXPECT_EQ(host.Config(), before);
     float x = 150;
     for (const uint32_t code : {RULECANVAS_MOUSE_MOVED, RULECANVAS_MOUSE_MOVED_EVENT, RULECANVAS_MOUSE_CURSOR_QUERY}) {
-        const std::string last = host.Config(shape);
+        const std::string last = host.Config();
         x += 10;
         host.Send(code, x, 160);
-        EXPECT_NE(host.Config(shape), last) << code;
+        EXPECT_NE(host.Config(), last) << code;
     }
 }
 
@@ -225,17 +223,16 @@ TEST(Dispatch, AsksTheHostForRedrawsAndHints) {
 }
 
 TEST(Container, FitsShapesToViewZeroAndClampsThemToTheirOwn) {
-    ScenarioHost host;
-    const ShapeID shape = host.Add("Rect");
+    FigureHost host("Rect");
     host.Drag({100, 100}, {200, 200});
     host.rectOfViewZero = ClientRect{0, 0, 400, 300};
     EXPECT_TRUE(host.container.RefitShapes());
-    EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[2048,2730]]})") << "the same place of a smaller view";
+    EXPECT_EQ(host.Config(), R"({"rule":[[1024,1365],[2048,2730]]})") << "the same place of a smaller view";
     host.TakeLog();
     host.Click(60, 60);
     EXPECT_EQ(host.TakeLog()[0], "select rule") << "and it is found there";
     host.Drag({100, 100}, {900, 700});
-    EXPECT_EQ(host.Config(shape), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
+    EXPECT_EQ(host.Config(), R"({"rule":[[1024,1365],[16382,16382]]})") << "to the border of its own view";
 }
 
 TEST(Container, FitsAFigureThatLearnsTheSizeOfItsViewLate) {
@@ -316,16 +313,15 @@ TEST(Container, DrawsATipUntilAPressHitsAShapeOfTheView) {
 }
 
 TEST(Container, ChangesTheLookOfOneShape) {
-    ScenarioHost host;
-    const ShapeID shape = host.Add("Rect", Square);
-    host.container.SetCaption(shape, "gate");
-    host.container.SetColour(shape, Outline::Selected, 1, 2, 3);
-    host.container.SetColour(shape, Outline::Unselected, -1, 300, 0);
-    host.container.ShowHandles(shape, false);
+    FigureHost host("Rect", Square);
+    host.container.SetCaption(host.shape, "gate");
+    host.container.SetColour(host.shape, Outline::Selected, 1, 2, 3);
+    host.container.SetColour(host.shape, Outline::Unselected, -1, 300, 0);
+    host.container.ShowHandles(host.shape, false);
     EXPECT_EQ(host.Paint(), (Lines{"text (98,73) \"gate\" size 2 1,2,3", "rect (98,73)-(293,220) w2 1,2,3"}));
-    host.container.SelectShape(shape, false);
+    host.container.SelectShape(host.shape, false);
     EXPECT_EQ(host.Paint(), (Lines{"text (98,73) \"gate\" size 2 -1,300,0", "rect (98,73)-(293,220) w2 -1,300,0"}));
-    host.container.ShowShape(shape, false);
+    host.container.ShowShape(host.shape, false);
     EXPECT_EQ(host.Paint(), Lines{});
 }
 
@@ -338,9 +334,7 @@ TEST(Container, WorksWithoutAHostObjectAndAnyDelegate) {
     container.SendMouse(MouseCode::Moved, 0, 50, 50);
     container.SendKey(0, 27);
     container.SendMouse(MouseCode::LeftUp, 0, 50, 50);
-    RecordingSurface surface;
-    container.Paint(0, surface);
-    EXPECT_EQ(surface.calls, Lines{});
+    EXPECT_EQ(Drawn([&](auto& surface) { container.Paint(0, surface); }), Lines{});
     EXPECT_TRUE(container.Configuration(shape).empty());
 }
 

@@ -39,7 +39,8 @@ TEST(Geometry, HasTheTolerancesOfTheEditor) {
          {Case{{10, 0}, {10, 50}, {13, 20}, {13.5F, 20}}, Case{{10, 0}, {10, 50}, {10, 53}, {10, 53.5F}},
           Case{{0, 10}, {50, 10}, {20, 13}, {20, 13.5F}}, Case{{0, 0}, {50, 50}, {24, 20}, {24.5F, 20}},
           Case{{0, 0}, {25, 50}, {14, 20}, {14.5F, 20}}, Case{{0, 0}, {50, 50}, {-3, -3}, {-5, -5}},
-          Case{{7, 7}, {7, 7}, {10, 10}, {10, 10.5F}}}) {
+          Case{{100, 100}, {300, 150}, {200, 129}, {200, 129.5F}},
+          Case{{100, 100}, {300, 150}, {200, 121}, {200, 120.5F}}, Case{{7, 7}, {7, 7}, {10, 10}, {10, 10.5F}}}) {
         for (const auto& [from, to] : {std::make_pair(c.a, c.b), std::make_pair(c.b, c.a)}) {
             EXPECT_TRUE(NearSegment(from, to, c.near)) << c.near.x << "," << c.near.y;
             EXPECT_FALSE(NearSegment(from, to, c.beyond)) << c.beyond.x << "," << c.beyond.y;
@@ -110,6 +111,14 @@ TEST(Geometry, TheInsideOfARingDoesNotDependOnItsBeginning) {
             std::rotate(ring.begin(), ring.begin() + 1, ring.end());
         }
         std::reverse(ring.begin(), ring.end());
+    }
+    // A corner at the height of the point, on either side or on both.
+    for (Points corner :
+         {Points{{0, 0}, {60, 30}, {0, 60}}, {{0, 30}, {60, 0}, {60, 60}}, {{30, 0}, {60, 30}, {0, 30}}}) {
+        for (int direction = 0; direction < 2; ++direction) {
+            EXPECT_FALSE(InPolygon(corner, {-1, 30}) || InPolygon(corner, {61, 30}));
+            std::reverse(corner.begin(), corner.end());
+        }
     }
 }
 

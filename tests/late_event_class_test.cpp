@@ -8,11 +8,6 @@
 namespace rulecanvas::test {
 namespace {
 
-ShapePtr OnlyShapeOf(CVideoAnalyseContainer& container) {
-    const ShapeSnapshot shapes = container.ShapesInOrder();
-    return *shapes.begin();
-}
-
 void Paint(GridScene& scene) {
     Surface surface;
     scene.container.OnDraw(0, surface);
@@ -59,15 +54,15 @@ TEST(LateEvents, FindAFigureWithoutPointsAndLeaveItWhole) {
         }
         GridScene untouched;
         untouched.Add(type.name);
-        const std::string expected = DrawnAnew(untouched, OnlyShapeOf(untouched.container));
+        const std::string expected = DrawnAnew(untouched, untouched.OnlyShape());
         EXPECT_NE(expected, "") << type.name;
         for (const char* config : {"", type.config}) {
             for (const float press : {1000.0F, 1500.0F}) { // a point, and a line or an inside
                 GridScene scene;
                 scene.Add(type.name, config);
                 scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, {press, press});
-                SendLate(scene, OnlyShapeOf(scene.container));
-                EXPECT_EQ(DrawnAnew(scene, OnlyShapeOf(scene.container)), expected) << type.name << config;
+                SendLate(scene, scene.OnlyShape());
+                EXPECT_EQ(DrawnAnew(scene, scene.OnlyShape()), expected) << type.name << config;
             }
         }
     }
@@ -77,7 +72,7 @@ TEST(LateEvents, FindAnOvalWithoutCorners) {
     GridScene scene;
     scene.Add("OvalShape", R"({"OvalShape":[[1000,1000],[3000,3000]]})");
     scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, {1000, 1000});
-    const ShapePtr oval = OnlyShapeOf(scene.container);
+    const ShapePtr oval = scene.OnlyShape();
     SendLate(scene, oval);
     EXPECT_EQ(oval->GetState(), Complete);
 }

@@ -49,6 +49,11 @@ struct Owned : test::GridScene {
         shape->HandleLButtonDownEvent(PointerEvent{event, GridRect}, level);
     }
 
+    int StateAfterRightPress(int level) {
+        shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, level);
+        return shape->GetState();
+    }
+
     int StateAfterStroke(const PointF& from, const PointF& to) {
         shape->RestartDrawing();
         Press(from, Busy);
@@ -154,15 +159,11 @@ TEST(OwnedArrow, IsFinishedByTheRightButtonWithItsOwnersConsent) {
     arrow.Configure("rule", "", R"({"XArrowLine":true})");
     owner.SitOver(arrow.shape->Hooks());
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Drawing);
-    const auto stateAfterRightPress = [&](int level) {
-        arrow.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, level);
-        return arrow.shape->GetState();
-    };
-    EXPECT_EQ(stateAfterRightPress(OnOutline), Drawing);
+    EXPECT_EQ(arrow.StateAfterRightPress(OnOutline), Drawing);
     owner.longest = 1;
-    EXPECT_EQ(stateAfterRightPress(Busy), Drawing);
+    EXPECT_EQ(arrow.StateAfterRightPress(Busy), Drawing);
     owner.longest = 2;
-    EXPECT_EQ(stateAfterRightPress(Busy), Complete);
+    EXPECT_EQ(arrow.StateAfterRightPress(Busy), Complete);
 }
 
 TEST(OwnedShape, LetsItsOwnerHearAndPlaceInsteadOfTheHost) {
@@ -241,12 +242,10 @@ void CheckLimit(const char* type, const PointF& press, const PointF& move, const
     const int dragged = owned.shape->GetState();
     EXPECT_GT(dragged, Complete);
     owned.Send(RULECANVAS_MOUSE_LEFT_UP, refused);
-    owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, OnOutline);
-    EXPECT_EQ(owned.shape->GetState(), dragged);
+    EXPECT_EQ(owned.StateAfterRightPress(OnOutline), dragged);
     owned.Send(RULECANVAS_MOUSE_LEFT_UP, accepted);
     EXPECT_EQ(owned.shape->GetState(), Complete);
-    owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, OnOutline);
-    EXPECT_EQ(owned.shape->GetState(), Deleted) << "at rest the limit is none";
+    EXPECT_EQ(owned.StateAfterRightPress(OnOutline), Deleted) << "at rest the limit is none";
 }
 
 TEST(OwnedPath, EndsADragInsideItsLimitRectangleOnly) {
@@ -301,10 +300,7 @@ TEST(OwnedShape, RemembersItsModeWordsWhenItIsConfiguredAgain) {
         const char* word;
         bool (*remembers)(Owned<>& owned);
     };
-    const auto goesByTheRightButton = [](Owned<>& owned) {
-        owned.shape->HandleRButtonEvent({RULECANVAS_MOUSE_RIGHT_DOWN, 0, 0, 9, 9, 0, 0}, OnOutline);
-        return owned.shape->GetState() == Deleted;
-    };
+    const auto goesByTheRightButton = [](Owned<>& owned) { return owned.StateAfterRightPress(OnOutline) == Deleted; };
     const auto staysConvex = [](Owned<>& owned) {
         Points dragged;
         owned.shape->SetShapePoints({{100, 100}, {200, 100}, {200, 200}, {100, 200}});

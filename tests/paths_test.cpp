@@ -12,17 +12,6 @@ namespace {
 
 constexpr const char* Hook = "100,100 200,100 200,200";
 
-TEST(Polygon, ThatItsClosingEdgeWouldCrossIsThrownAwayByTheRightButton) {
-    ScenarioHost host(GridView, GridView);
-    const ShapeID shape = host.Add("Polygon");
-    Act(host, "click 50 50 click 100 50 click 100 0 click 0 0 click 0 100 click 120 100 click 120 40");
-    host.TakeLog();
-    Act(host, "right 0 0 move 200 200 release 200 200");
-    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>1", "capture off"})) << "and listens no more";
-    Act(host, "click 10 10 click 60 10 click 60 60 right 0 0");
-    EXPECT_EQ(host.Config(shape), Rule("10,10 60,10 60,60"));
-}
-
 TEST(Paths, AreDrawnOnTheSurface) {
     ScenarioHost host;
     const ShapeID polygon = host.Add("Polygon");

@@ -73,14 +73,13 @@ void Play(const char* type, const char* option) {
         RULECANVAS_MOUSE_CURSOR_QUERY, RULECANVAS_MOUSE_MOVED_EVENT, RULECANVAS_MOUSE_ALT_RIGHT_DOWN};
     std::mt19937 random;
     const auto pick = [&](unsigned limit) { return static_cast<int>(random() % limit); };
-    ScenarioHost host(60, 48);
-    const ShapeID shape = host.Add(type, "", option);
+    FigureHost host(type, "", option, 60, 48);
     bool closed = false;
     std::map<std::string, int> heard;
     for (int event = 0; event < 20000; ++event) {
         if (pick(60) == 0) {
-            host.container.RedrawShape(shape);
-            host.container.SetPointLimits(shape, 3 + pick(8), 3);
+            host.container.RedrawShape(host.shape);
+            host.container.SetPointLimits(host.shape, 3 + pick(8), 3);
             closed = false;
         }
         const PointF place{static_cast<float>(pick(140)) / 2 - 5, static_cast<float>(pick(116)) / 2 - 5};

@@ -28,7 +28,7 @@ TEST(PressIndex, KeepsNoShapeThatWasDeleted) {
         GridScene scene;
         const ShapeID id = scene.Add("Rect", Corners);
         scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, {9, 9});
-        const std::weak_ptr<CVideoAnalyseShape> shape = *scene.container.ShapesInOrder().begin();
+        const std::weak_ptr<CVideoAnalyseShape> shape = scene.OnlyShape();
         all ? scene.container.DeleteAllShapes() : static_cast<void>(scene.container.DeleteShape(id));
         EXPECT_TRUE(shape.expired());
     }

@@ -19,29 +19,15 @@ Lines SelectedRectangle(const PointF& topLeft, const PointF& bottomRight) {
     return lines;
 }
 
-TEST(Rectangle, IsDrawnByDraggingInAnyDirection) {
-    for (const PointF& end : {PointF{200, 150}, PointF{20, 150}, PointF{20, 20}, PointF{200, 20}}) {
-        ScenarioHost host;
-        const ShapeID shape = host.Add("Rect");
-        EXPECT_EQ(host.Paint(), Lines{});
-
-        host.Drag({100, 80}, end);
-        EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "capture off", "state rule 2>3"}));
-        EXPECT_EQ(host.Paint(), SelectedRectangle({std::min(100.0F, end.x), std::min(80.0F, end.y)},
-                                                  {std::max(100.0F, end.x), std::max(80.0F, end.y)}));
-        EXPECT_EQ(host.container.SelectedShape(), shape);
-    }
-}
-
 TEST(Rectangle, ThatCannotBeBuiltWaitsToBeDrawnAgain) {
-    ScenarioHost host;
-    const ShapeID shape = host.Add("Rect");
-
+    FigureHost host("Rect");
+    EXPECT_EQ(host.Paint(), Lines{});
+    EXPECT_EQ(host.container.SelectedShape(), host.shape);
     host.Press(801, 10);
     EXPECT_EQ(host.TakeLog(), Lines{}) << "a press outside the view";
     host.Click(100, 100);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "capture off"})) << "released where it was pressed";
-    EXPECT_EQ(host.Config(shape), "");
+    EXPECT_EQ(host.Config(), "");
     host.Press(100, 100);
     host.Move(150, 150);
     host.Move(109, 150);
@@ -49,12 +35,14 @@ TEST(Rectangle, ThatCannotBeBuiltWaitsToBeDrawnAgain) {
     host.Release(109, 150);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "redraw", "capture off"}));
     EXPECT_EQ(host.Paint(), SelectedRectangle({100, 100}, {150, 150})) << "and waits to be replaced";
-    EXPECT_NE(host.Config(shape), "");
+    EXPECT_NE(host.Config(), "");
 
     host.Press(700, 500);
+    host.Move(650, 450);
+    EXPECT_EQ(host.Paint(), SelectedRectangle({650, 450}, {700, 500})) << "in any direction";
     host.Move(900, 700);
     host.Release(900, 700);
-    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw"})) << "released outside: still drawing";
+    EXPECT_EQ(host.TakeLog(), (Lines{"capture on", "redraw", "redraw"})) << "released outside: still drawing";
     EXPECT_EQ(host.Paint(), SelectedRectangle({700, 500}, {800, 600})) << "clamped to the view";
     host.Release(750.9F, 550.9F);
     EXPECT_EQ(host.TakeLog(), (Lines{"capture off", "state rule 2>3"}));
@@ -62,8 +50,7 @@ TEST(Rectangle, ThatCannotBeBuiltWaitsToBeDrawnAgain) {
 }
 
 TEST(Rectangle, IsDeselectedByAPressBesideItAndSelectedAgainByOneInside) {
-    ScenarioHost host(GridView, GridView);
-    host.Add("Rect", Square);
+    GridHost host("Rect", Square);
     host.Click(300, 300);
     EXPECT_EQ(host.TakeLog(), Lines{});
     EXPECT_EQ(host.Paint(), (Lines{"text (100,100) \"\" size 2 blue", "rect (100,100)-(200,200) w2 blue"}));
@@ -73,13 +60,12 @@ TEST(Rectangle, IsDeselectedByAPressBesideItAndSelectedAgainByOneInside) {
 }
 
 TEST(Rectangle, ThatWasDeletedByTheRightButtonCanBeDrawnAnew) {
-    ScenarioHost host(GridView, GridView);
-    const ShapeID shape = host.Add("Rect", Square, "EnableRBtnDelete");
+    GridHost host("Rect", Square, "EnableRBtnDelete");
     host.RightPress(150, 150);
     EXPECT_EQ(host.Paint(), Lines{});
-    EXPECT_TRUE(host.container.RedrawShape(shape));
+    EXPECT_TRUE(host.container.RedrawShape(host.shape));
     host.Drag({10, 10}, {90, 90});
-    EXPECT_EQ(host.Config(shape), Rule("10,10 90,90"));
+    EXPECT_EQ(host.Config(), Rule("10,10 90,90"));
 }
 
 TEST(Rectangle, DrawsAsItsStyleSays) {
@@ -104,14 +90,12 @@ TEST(Rectangle, DrawsAsItsStyleSays) {
             Case{R"({"LineThickness":5000000000,"UnSelLineThickness":7})", " w2 yellow", " w7 blue"},
             Case{"TextOnly,EnableRBtnDelete", " w2 yellow", " w2 blue"},
         }) {
-        ScenarioHost host(GridView, GridView);
-        const ShapeID shape = host.Add("Rect", R"({"rule":[[0,0],[20,20]]})", option);
+        GridHost host("Rect", R"({"rule":[[0,0],[20,20]]})", option);
         EXPECT_EQ(host.Paint()[1], std::string("rect (0,0)-(20,20)") + whenSelected);
-        host.container.SelectShape(shape, false);
+        host.container.SelectShape(host.shape, false);
         EXPECT_EQ(host.Paint()[1], std::string("rect (0,0)-(20,20)") + whenDeselected);
     }
-    ScenarioHost host(GridView, GridView);
-    host.Add("Rect", Square, "TextOnly");
+    GridHost host("Rect", Square, "TextOnly");
     EXPECT_EQ(host.Paint(), Lines{"text (100,100) \"\" size 2 yellow"}) << "no handles on a mere text";
 }
 
@@ -127,9 +111,8 @@ TEST(Rectangle, CoversItsInsideWithAMosaic) {
           Case{R"({"mosaic":{"enable":1,"size":20}})",
                {"layer", "layer-size 20x12", "fill (0,0)-(20,12)" + black, "layer-end (5,5)"}},
           Case{R"({"mosaic":{"enable":true,"size":0}})", {}}, Case{R"({"mosaic":{"size":8}})", {}}}) {
-        ScenarioHost host(GridView, GridView);
-        const ShapeID shape = host.Add("Rect", R"({"rule":[[5,5],[25,17]]})", option);
-        host.container.SelectShape(shape, false);
+        GridHost host("Rect", R"({"rule":[[5,5],[25,17]]})", option);
+        host.container.SelectShape(host.shape, false);
         const Lines drawn = host.Paint();
         ASSERT_GE(drawn.size(), 2U);
         EXPECT_EQ(Lines(drawn.begin() + 2, drawn.end()), layer) << option;

@@ -1,7 +1,6 @@
 #include "docs/figure_behaviour.h"
 
 #include "support/scenario_host.h"
-#include "support/types.h"
 
 namespace rulecanvas::test {
 namespace {

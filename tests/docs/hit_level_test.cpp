@@ -65,8 +65,7 @@ int LevelOf(const std::string& type, const std::string& column) {
     GridScene scene;
     const bool drawn = column != "1" && column != "2";
     Enter(scene, scene.Add(type.c_str(), drawn ? ConfigOf(type) : ""), type, column);
-    const ShapeSnapshot shapes = scene.container.ShapesInOrder();
-    const ShapePtr& shape = *shapes.begin();
+    const ShapePtr shape = scene.OnlyShape();
     if (column.size() == 1) {
         EXPECT_EQ(std::to_string(shape->GetState()), column) << type;
     }

@@ -85,13 +85,7 @@ void RunHelperHost() {
     container.SendMouse(MouseCode::LeftUp, View, 110, 70);
     container.SendMouse(MouseCode::LeftDown, View, 50, 50);
     container.SendMouse(MouseCode::CursorQuery, View, 50, 50);
-    ExpectCalls("a rectangle is drawn and grabbed",
-                "notify {\"EventName\":\"label\",\"EventParam\":{\"ShapeID\":%u.0,\"ShapeName\":\"\"}}\n"
-                "capture 1\nredraw\ncapture 0\nnotify {\"EventName\":\"label\",\"EventParam\":{\"PreShapeState\":2,"
-                "\"ShapeID\":%u.0,\"ShapeName\":\"zone\",\"ShapeState\":3}}\n"
-                "notify {\"EventName\":\"label\",\"EventParam\":{\"ShapeID\":%u.0,\"ShapeName\":\"zone\"}}\n"
-                "capture 1\nhint 4\n",
-                shape, shape, shape);
+    ExpectRectangle(shape);
     Expect("the configuration is read",
            strcmp(container.Configuration(shape).c_str(), "{\"zone\":[[205,546],[2253,1911]]}\n") == 0);
     container.IgnoreNotifications();

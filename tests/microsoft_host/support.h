@@ -17,6 +17,8 @@ void Write(const char* format, ...);
 /// Prints whether the lines since the last time are exactly the expected ones.
 void ExpectCalls(const char* what, const char* format, ...);
 void Expect(const char* what, bool met);
+/// Expects what every host hears of a rectangle that is made, drawn, pressed and pointed at.
+void ExpectRectangle(ShapeID shape);
 
 /// Writes down what is drawn; every text is 41.5 wide and 12.5 high.
 class Canvas final : public Surface {
@@ -70,9 +72,6 @@ class Canvas final : public Surface {
               colour.alpha, style.face);
     }
 };
-
-/// Runs it with the stack at every place that code of this compiler may enter a function with.
-void RunOnEveryStack(void(__cdecl* run)());
 
 /// A host written against rulecanvas.h alone, with classes and method pointers as this compiler lays them out.
 void RunRawHost();

@@ -24,6 +24,8 @@ struct GridScene {
     ShapeID Add(const char* type, const char* config = "") {
         return container.CreateMainShape(0, "", type, "rule", config, "");
     }
+    /// The only one.
+    ShapePtr OnlyShape() { return *container.ShapesInOrder().begin(); }
     void Send(uint32_t code, const PointF& at) { container.OnMouseEvent({code, 0, 0, at.x, at.y, 0, 0}); }
 
   private:

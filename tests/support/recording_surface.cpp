@@ -37,82 +37,80 @@ bool HasDefaultFace(const TextStyle& style) {
     return std::strcmp(style.face, "MS Sans Serif") == 0;
 }
 
+class RecordingSurface final : public IContainerGraphics {
+  public:
+    explicit RecordingSurface(std::function<void()> onCall) : called(std::move(onCall)) {}
+
+    Lines calls;
+
+    void DrawLine(const PointF* from, const PointF* to, float width, const ColorF* colour, int32_t penStyle) override {
+        Write("line " + Box(*from, *to) + Pen(width, *colour, penStyle));
+    }
+    void DrawText(const PointF* at, const TextStyle* style, const char* text, int32_t first, int32_t second) override {
+        Write("text " + Written(*at) + " \"" + text + "\" size " + Number(style->size) + " " + Colour(style->colour) +
+              (HasDefaultFace(*style) ? "" : std::string(" in ") + style->face) +
+              (first == 0 && second == 1 ? "" : " wrong last arguments"));
+    }
+    void DrawTextEx(const PointF* /*at*/, const TextStyle* /*style*/, const char* /*text*/) override {
+        Write("DrawTextEx is never called");
+    }
+    void FillEllipse(const PointF* corner1, const PointF* corner2, float width, ColorF fill,
+                     const ColorF* outline) override {
+        Write("fill-ellipse " + Box(*corner1, *corner2) + Pen(width, fill, 0) +
+              (Colour(fill) == Colour(*outline) ? "" : " outline " + Colour(*outline)));
+    }
+    void DrawEllipse(const PointF* corner1, const PointF* corner2, float width, const ColorF* colour) override {
+        Write("ellipse " + Box(*corner1, *corner2) + Pen(width, *colour, 0));
+    }
+    void DrawRectangle(const PointF* topLeft, const PointF* bottomRight, float width, const ColorF* colour,
+                       int32_t penStyle) override {
+        Write("rect " + Box(*topLeft, *bottomRight) + Pen(width, *colour, penStyle));
+    }
+    float MeasureText(TextStyle /*style*/, const char* text) override {
+        return 7.0F * static_cast<float>(std::strlen(text));
+    }
+    float MeasureTextHeight(TextStyle /*style*/, const char* /*text*/) override { return 12.0F; }
+    void DrawTextAtPoints(const char* text, const PointF* points, int32_t count, ColorF colour, int32_t format,
+                          ClientRect clip, int32_t last) override {
+        std::ostringstream out;
+        out << "caption \"" << text << "\" at ";
+        for (int32_t i = 0; i < count; ++i) {
+            out << Written(points[i]);
+        }
+        out << " " << Colour(colour) << " clip " << clip.left << "," << clip.top << "," << clip.right << ","
+            << clip.bottom << (format == 32 && last == 1 ? "" : " wrong last arguments");
+        Write(out.str());
+    }
+    void BeginLayer() override { Write("layer"); }
+    void EndLayer(int32_t x, int32_t y) override {
+        Write("layer-end (" + std::to_string(x) + "," + std::to_string(y) + ")");
+    }
+    void SetLayerSize(int32_t width, int32_t height) override {
+        Write("layer-size " + std::to_string(width) + "x" + std::to_string(height));
+    }
+    void FillRectangle(const PointF* topLeft, const PointF* bottomRight, const ColorF* colour) override {
+        Write("fill " + Box(*topLeft, *bottomRight) + " " + Colour(*colour));
+    }
+
+  private:
+    void Write(const std::string& call) {
+        calls.push_back(call);
+        called();
+    }
+
+    std::function<void()> called;
+};
+
 } // namespace
 
 std::string Written(const PointF& point) {
     return "(" + Number(point.x) + "," + Number(point.y) + ")";
 }
 
-void RecordingSurface::Write(const std::string& call) {
-    calls.push_back(call);
-    called();
-}
-
-void RecordingSurface::DrawLine(const PointF* from, const PointF* to, float width, const ColorF* colour,
-                                int32_t penStyle) {
-    Write("line " + Box(*from, *to) + Pen(width, *colour, penStyle));
-}
-
-void RecordingSurface::DrawText(const PointF* at, const TextStyle* style, const char* text, int32_t first,
-                                int32_t second) {
-    Write("text " + Written(*at) + " \"" + text + "\" size " + Number(style->size) + " " + Colour(style->colour) +
-          (HasDefaultFace(*style) ? "" : std::string(" in ") + style->face) +
-          (first == 0 && second == 1 ? "" : " wrong last arguments"));
-}
-
-void RecordingSurface::DrawTextEx(const PointF* /*at*/, const TextStyle* /*style*/, const char* /*text*/) {
-    Write("DrawTextEx is never called");
-}
-
-void RecordingSurface::FillEllipse(const PointF* corner1, const PointF* corner2, float width, ColorF fill,
-                                   const ColorF* outline) {
-    Write("fill-ellipse " + Box(*corner1, *corner2) + Pen(width, fill, 0) +
-          (Colour(fill) == Colour(*outline) ? "" : " outline " + Colour(*outline)));
-}
-
-void RecordingSurface::DrawEllipse(const PointF* corner1, const PointF* corner2, float width, const ColorF* colour) {
-    Write("ellipse " + Box(*corner1, *corner2) + Pen(width, *colour, 0));
-}
-
-void RecordingSurface::DrawRectangle(const PointF* topLeft, const PointF* bottomRight, float width,
-                                     const ColorF* colour, int32_t penStyle) {
-    Write("rect " + Box(*topLeft, *bottomRight) + Pen(width, *colour, penStyle));
-}
-
-float RecordingSurface::MeasureText(TextStyle /*style*/, const char* text) {
-    return 7.0F * static_cast<float>(std::strlen(text));
-}
-
-float RecordingSurface::MeasureTextHeight(TextStyle /*style*/, const char* /*text*/) {
-    return 12.0F;
-}
-
-void RecordingSurface::DrawTextAtPoints(const char* text, const PointF* points, int32_t count, ColorF colour,
-                                        int32_t format, ClientRect clip, int32_t last) {
-    std::ostringstream out;
-    out << "caption \"" << text << "\" at ";
-    for (int32_t i = 0; i < count; ++i) {
-        out << Written(points[i]);
-    }
-    out << " " << Colour(colour) << " clip " << clip.left << "," << clip.top << "," << clip.right << "," << clip.bottom
-        << (format == 32 && last == 1 ? "" : " wrong last arguments");
-    Write(out.str());
-}
-
-void RecordingSurface::BeginLayer() {
-    Write("layer");
-}
-
-void RecordingSurface::EndLayer(int32_t x, int32_t y) {
-    Write("layer-end (" + std::to_string(x) + "," + std::to_string(y) + ")");
-}
-
-void RecordingSurface::SetLayerSize(int32_t width, int32_t height) {
-    Write("layer-size " + std::to_string(width) + "x" + std::to_string(height));
-}
-
-void RecordingSurface::FillRectangle(const PointF* topLeft, const PointF* bottomRight, const ColorF* colour) {
-    Write("fill " + Box(*topLeft, *bottomRight) + " " + Colour(*colour));
+Lines Drawn(const std::function<void(IContainerGraphics&)>& paint, std::function<void()> onCall) {
+    RecordingSurface surface(std::move(onCall));
+    paint(surface);
+    return surface.calls;
 }
 
 } // namespace rulecanvas::test

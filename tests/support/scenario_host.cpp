@@ -1,6 +1,7 @@
 #include "support/scenario_host.h"
 
 #include <string>
+#include <utility>
 
 namespace rulecanvas::test {
 namespace {
@@ -65,9 +66,7 @@ void ScenarioHost::Tell(const std::string& entry) {
 }
 
 Lines ScenarioHost::TakeLog() {
-    Lines taken;
-    taken.swap(log);
-    return taken;
+    return std::exchange(log, {});
 }
 
 ShapeID ScenarioHost::Add(const char* type, const std::string& config, const std::string& option, const char* name) {
@@ -76,25 +75,8 @@ ShapeID ScenarioHost::Add(const char* type, const std::string& config, const std
     return shape;
 }
 
-void ScenarioHost::Click(float x, float y) {
-    Press(x, y);
-    Release(x, y);
-}
-
-void ScenarioHost::Drag(const PointF& from, const PointF& to) {
-    Press(from.x, from.y);
-    Move(to.x, to.y);
-    Release(to.x, to.y);
-}
-
-void ScenarioHost::Send(uint32_t code, float x, float y, ViewID view) {
-    container.SendMouse(static_cast<MouseCode>(code), view, x, y);
-}
-
 Lines ScenarioHost::Paint(ViewID view) {
-    RecordingSurface surface([this] { Tell("drawing"); });
-    container.Paint(view, surface);
-    return surface.calls;
+    return Drawn([&](auto& surface) { container.Paint(view, surface); }, [this] { Tell("drawing"); });
 }
 
 std::string ScenarioHost::Config(ShapeID shape) {

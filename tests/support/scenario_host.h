@@ -2,6 +2,7 @@
 
 #include "rulecanvas/host.hpp"
 #include "support/recording_surface.h"
+#include "support/types.h"
 
 #include <functional>
 #include <optional>
@@ -35,11 +36,20 @@ class ScenarioHost {
     void Press(float x, float y) { Send(RULECANVAS_MOUSE_LEFT_DOWN, x, y); }
     void Move(float x, float y) { Send(RULECANVAS_MOUSE_MOVED, x, y); }
     void Release(float x, float y) { Send(RULECANVAS_MOUSE_LEFT_UP, x, y); }
-    void Click(float x, float y);
+    void Click(float x, float y) {
+        Press(x, y);
+        Release(x, y);
+    }
     void RightPress(float x, float y) { Send(RULECANVAS_MOUSE_RIGHT_DOWN, x, y); }
     /// Press, one move to the end, release there.
-    void Drag(const PointF& from, const PointF& to);
-    void Send(uint32_t code, float x, float y, ViewID view = TheView);
+    void Drag(const PointF& from, const PointF& to) {
+        Press(from.x, from.y);
+        Move(to.x, to.y);
+        Release(to.x, to.y);
+    }
+    void Send(uint32_t code, float x, float y, ViewID view = TheView) {
+        container.SendMouse(static_cast<MouseCode>(code), view, x, y);
+    }
 
     /// What a paint of the view draws.
     Lines Paint(ViewID view = TheView);
@@ -62,6 +72,23 @@ class ScenarioHost {
 
   public:
     Container container;
+};
+
+/// A host with a figure.
+struct FigureHost : ScenarioHost {
+    ShapeID shape;
+
+    explicit FigureHost(const char* type, const std::string& config = "", const std::string& option = "",
+                        int width = 800, int height = 600)
+        : ScenarioHost(width, height), shape(Add(type, config, option)) {}
+    using ScenarioHost::Config;
+    std::string Config() { return Config(shape); }
+};
+
+/// A host with a figure in a view that is as large as the grid.
+struct GridHost : FigureHost {
+    explicit GridHost(const char* type, const std::string& config = "", const std::string& option = "")
+        : FigureHost(type, config, option, GridView, GridView) {}
 };
 
 } // namespace rulecanvas::test

@@ -57,11 +57,10 @@ std::string Heard(ScenarioHost& host) {
 void Check(const std::vector<Story>& stories) {
     for (const Story& story : stories) {
         SCOPED_TRACE(story.type + (" " + story.option) + " " + story.begin + ": " + story.acts);
-        ScenarioHost host(GridView, GridView);
-        const ShapeID shape = host.Add(story.type, Rule(story.begin), story.option);
+        GridHost host(story.type, Rule(story.begin), story.option);
         Act(host, story.acts);
         EXPECT_EQ(Heard(host), story.heard);
-        EXPECT_EQ(ReadBack(host, shape), Rule(story.end));
+        EXPECT_EQ(ReadBack(host, host.shape), Rule(story.end));
     }
 }
 

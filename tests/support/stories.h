@@ -3,7 +3,6 @@
 #pragma once
 
 #include "support/scenario_host.h"
-#include "support/types.h"
 
 #include <string>
 #include <vector>
