@@ -120,6 +120,9 @@ TEST(Geometry, TheInsideOfARingDoesNotDependOnItsBeginning) {
             std::reverse(corner.begin(), corner.end());
         }
     }
+    EXPECT_TRUE(InPolygon(Points{{0, 0}, {1, 2}, {-5, 2}}, {0, 1}) &&
+                InPolygon(Points{{-5, 2}, {1, 2}, {0, 0}}, {0, 1}))
+        << "on its inner side by the smallest whole number";
 }
 
 TEST(Geometry, KnowsWhichShiftsRound) {
