@@ -71,6 +71,9 @@ TEST(Geometry, CrossesASegmentWithItsDirectionMarkUpperEndFirst) {
     EXPECT_GT(std::min(up.first.y, up.second.y), 18) << "a vertical arrow has two barbs too, behind its tip";
     EXPECT_LT(std::min(up.first.x, up.second.x), 6);
     EXPECT_GT(std::max(up.first.x, up.second.x), 14);
+    const ArrowBarbs slanted = BarbsOf({0, 0}, {40, 30}, ArrowHeadHalfAngle());
+    EXPECT_LT(std::hypot(slanted.first.x - 30.072, slanted.first.y - 28.804), 0.001);
+    EXPECT_LT(std::hypot(slanted.second.x - 36.072, slanted.second.y - 20.804), 0.001);
 }
 
 TEST(Geometry, SegmentsMeetWhenTheyCrossOrTouch) {
