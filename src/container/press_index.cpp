@@ -2,19 +2,23 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace rulecanvas {
 namespace {
 
 /// Appends the places of flags that are set, at most `limit` of them.
 void AppendFlagged(const std::vector<uint8_t>& flags, size_t limit, std::vector<uint32_t>& places) {
-    auto at = flags.begin();
-    for (size_t found = 0; found < limit; ++found, ++at) {
-        at = std::find(at, flags.end(), 1);
-        if (at == flags.end()) {
+    const uint8_t* const begin = flags.data();
+    const uint8_t* const end = begin + flags.size();
+    const uint8_t* at = begin;
+    for (size_t found = 0; found < limit && at != end; ++found, ++at) {
+        // Many times as fast as a search byte by byte, and the flags are as many as the shapes.
+        at = static_cast<const uint8_t*>(std::memchr(at, 1, static_cast<size_t>(end - at)));
+        if (at == nullptr) {
             return;
         }
-        places.push_back(static_cast<uint32_t>(at - flags.begin()));
+        places.push_back(static_cast<uint32_t>(at - begin));
     }
 }
 
