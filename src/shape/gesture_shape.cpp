@@ -60,7 +60,7 @@ void CGestureShape::OnMouseListened(MouseListenerKind kind, const PointerEvent& 
         return outcome;
     });
     if (concludesLater && isStill) {
-        Take(&event.record, [&] { return ConcludeDrawing(event); });
+        Take(&event.record, [&] { return state == Drawing ? ConcludeDrawing(event) : Outcome{}; });
     }
 }
 
