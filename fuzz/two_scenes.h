@@ -3,6 +3,7 @@
 #pragma once
 
 #include "container/container.h"
+#include "rulecanvas/surface.hpp"
 #include "support/types.h"
 
 #include <functional>
@@ -13,6 +14,7 @@ namespace rulecanvas::test {
 
 constexpr int ViewWidth = 400;
 constexpr int ViewHeight = 300;
+constexpr int SmallWidth = 320;
 constexpr uint32_t HostTableSize = RULECANVAS_HOST_REQUEST_REDRAW + 1;
 
 /// A host that answers nothing but its client rectangle, and counts the hints.
@@ -21,6 +23,7 @@ struct QuietHost {
 
     const Operation* table = Table();
     int hints = 0;
+    int width = ViewWidth;
 
     static void RULECANVAS_THISCALL Hint(void* self, uint32_t /*value*/) { ++static_cast<QuietHost*>(self)->hints; }
     static void RULECANVAS_THISCALL Ignore(void* /*self*/, uint32_t /*value*/) {}
@@ -30,8 +33,8 @@ struct QuietHost {
         operations[RULECANVAS_HOST_REQUEST_REDRAW] = &Ignore;
         return operations;
     }
-    static void RULECANVAS_THISCALL ReportRect(void* /*self*/, ViewID /*view*/, ClientRect* out) {
-        *out = ClientRect{0, 0, ViewWidth, ViewHeight};
+    static void RULECANVAS_THISCALL ReportRect(void* self, ViewID /*view*/, ClientRect* out) {
+        *out = ClientRect{0, 0, static_cast<QuietHost*>(self)->width, ViewHeight};
     }
 };
 
@@ -111,10 +114,23 @@ class TwoScenes {
         const int what = Pick(16);
         what < 2    ? Add()
         : what == 2 ? ChangeOne()
-        : what == 3 ? Both([](CVideoAnalyseContainer& container) { container.InvalidateAll(); })
+        : what == 3 ? Refit()
         : what < 7  ? Send(RULECANVAS_MOUSE_MOVED)
         : what < 10 ? Send(RULECANVAS_MOUSE_LEFT_UP)
                     : Press(what == 10 ? RULECANVAS_MOUSE_RIGHT_DOWN : RULECANVAS_MOUSE_LEFT_DOWN);
+    }
+
+    /// All at once, or by a paint; the view may have another size now.
+    void Refit() {
+        const int how = Pick(3);
+        const int width = Pick(4) == 0 ? SmallWidth : ViewWidth;
+        for (Scene* scene : {&fast, &plain}) {
+            scene->host.width = width;
+        }
+        Both([&](CVideoAnalyseContainer& container) {
+            Surface surface;
+            how == 0 ? container.InvalidateAll() : container.OnDraw(static_cast<ViewID>(how - 1), surface);
+        });
     }
 
     template <class Call>
@@ -137,8 +153,9 @@ class TwoScenes {
     }
 
     void ChangeOne() {
-        const int which = Pick(6);
+        const int which = Pick(8);
         const int place = Pick(20);
+        const Points points{Place(), Place(), Place(), Place()};
         Both([&](CVideoAnalyseContainer& container) {
             const auto snapshot = container.ShapesInOrder();
             const std::vector<ShapePtr> shapes(snapshot.begin(), snapshot.end());
@@ -155,6 +172,11 @@ class TwoScenes {
                 container.SelectShape(id, place % 2 == 0);
             } else if (which == 3) {
                 container.RedrawShape(id);
+            } else if (which == 4) {
+                shape->SetShapePoints(points);
+            } else if (which == 5) {
+                shape->SetVideoAnalyseShapeData(
+                    {"rule", R"({"rule":[[4000,4000],[5000,5000]]})", "", {0, 0, 400, 300}});
             } else {
                 container.DeepFind(id)->SetMaxPtNum(place % 4, 3);
             }

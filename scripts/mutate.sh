@@ -78,7 +78,7 @@ build_copy() { cmake --build "$1/build" -j1 --target "${@:2}" >"$1.log" 2>&1; }
 run_command() {
     local tree=$1 command=$2
     # shellcheck disable=SC2086 # the words of the command
-    (cd "$tree/build" && LD_PRELOAD=$work/no_pause.so timeout "$patience" ./$command >"$tree.out" 2>&1)
+    (cd "$tree/build" && RULECANVAS_TRACE=1 LD_PRELOAD=$work/no_pause.so timeout "$patience" ./$command >"$tree.out" 2>&1)
 }
 
 # Prints the fate of the change in the fields: noticed, survived, or not built.

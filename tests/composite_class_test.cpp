@@ -19,6 +19,7 @@ class Frame final : public CRectangleShape {
     std::shared_ptr<CRectangleShape> part = std::make_shared<CRectangleShape>();
     std::string heard;
     int partLevel = Inside;
+    CVideoAnalyseShape* answering = part.get();
     std::function<void()> onEvent = [] {};
 
     bool IsComposite() const override { return true; }
@@ -38,8 +39,9 @@ class Frame final : public CRectangleShape {
     bool SelectShape(bool select, int /*mode*/) override { return select; }
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& /*event*/, int& hitLevel) override {
         hitLevel = partLevel;
-        return partLevel == Miss ? nullptr : part.get();
+        return partLevel == Miss ? nullptr : answering;
     }
+    bool ShowsHandles() const { return adjustBoxShown; }
     void HandleContainerEvent(const ContainerMouseEvent& event, int hitLevel) override {
         heard += std::to_string(event.code) + "@" + std::to_string(hitLevel) + " ";
         onEvent();
@@ -125,6 +127,12 @@ TEST(Composite, GivesAPressToItsPart) {
     frames.second->partLevel = OnOutline;
     frames.second->part->EnableShape(false);
     EXPECT_EQ(press(), Moving) << "the disabled part ends the search and wins nothing";
+    frames.first->answering = frames.first.get();
+    frames.first->partLevel = Outside;
+    frames.second->part->EnableShape(true);
+    frames.first->SetAdjustBoxShow(true);
+    press();
+    EXPECT_FALSE(frames.first->ShowsHandles()) << "although its own deselection leaves them";
 }
 
 TEST(Composite, IsOfferedMovesAndKeysUntilItEnds) {

@@ -269,6 +269,12 @@ TEST(Container, CollapsesNoFigureWhileTheViewHasNoSize) {
         host.Move(120, 90);
         EXPECT_NE(host.Paint(), before) << type.name;
     }
+    for (const auto& [width, height, drawn] : {std::make_tuple(800, 1, "rect (98,0.12)-(293,0.37) w2 yellow"),
+                                               {1, 600, "rect (0.12,73)-(0.37,220) w2 yellow"}}) {
+        FigureHost host("Rect", Square);
+        host.Resize(width, height);
+        EXPECT_EQ(host.Paint()[1], drawn) << "one pixel is a size";
+    }
     ScenarioHost host(0, 0);
     EXPECT_EQ(host.Config(host.Add("LineShape", Square)), R"({"rule":[[0,0],[0,0]]})");
 }

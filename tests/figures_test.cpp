@@ -118,7 +118,8 @@ TEST(Figures, LeaveNoListenerWhenTheyAreDeletedInAGesture) {
 
 TEST(Spot, IsHitThroughARectangleButDoesNotTakeThePress) {
     GridHost host("SpotShape", Rule("112,120"));
-    host.Click(116, 124); // beside it
+    host.Click(117, 121); // beside it
+    EXPECT_EQ(host.TakeLog(), Lines{});
     host.container.SetTip(TheView, "tip");
     host.Click(300, 300);
     EXPECT_EQ(host.Paint()[0], "ellipse (107,115)-(117,125) w2 blue") << "an unselected spot answers: no tip is left";
@@ -240,6 +241,8 @@ TEST(PixelCount, IsMeasuredByThePaintsOfADragButNotOfAMove) {
     host.Release(301, 300);
     host.Drag({200, 200}, {210, 200});
     EXPECT_EQ(host.Config(shape), R"({"rule":[160,160]})");
+    host.container.RedrawShape(shape);
+    EXPECT_EQ(host.Paint(), Lines{});
 }
 
 TEST(PixelCount, ReadsNoModeWordAndForgetsAPlaceWhenItIsDrawnAnew) {

@@ -83,7 +83,8 @@ TEST(Geometry, SegmentsMeetWhenTheyCrossOrTouch) {
     };
     for (const Case& c : {Case{{-5, 5}, {5, 5}, true}, Case{{-5, 5}, {0, 5}, true}, Case{{-5, 5}, {-1, 5}, false},
                           Case{{-5, 11}, {5, 11}, false}, Case{{0, 10}, {0, 20}, true}, Case{{0, 11}, {0, 20}, false},
-                          Case{{0, -9}, {0, -1}, false}, Case{{0, 3}, {0, 4}, true}, Case{{1, 0}, {1, 10}, false}}) {
+                          Case{{0, -9}, {0, -1}, false}, Case{{0, 3}, {0, 4}, true}, Case{{1, 0}, {1, 10}, false},
+                          Case{{-0.05F, 5}, {0.05F, 5}, true}}) {
         for (const bool mirrored : {false, true}) {
             const auto at = [&](const PointF& p) { return mirrored ? PointF{p.y, p.x} : p; };
             EXPECT_EQ(SegmentsCross(at({0, 0}), at({0, 10}), at(c.a), at(c.b)), c.meet) << c.a.x << "," << c.a.y;
@@ -160,6 +161,22 @@ TEST(Trace, TellsWhatWasFoundInsteadAndWhere) {
     SetTraceSink(nullptr);
     const char* const wanted = std::getenv("RULECANVAS_TRACE");
     EXPECT_EQ(IsTracing(), wanted != nullptr && std::strcmp(wanted, "1") == 0);
+    testing::internal::CaptureStderr();
+    scene.Add("Circle");
+    const std::string written = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(written.find("found \"Circle\", at type\n") != std::string::npos, IsTracing());
+}
+
+TEST(Factory, MakesEachTypeWithItsCodeAndItsWayToEnd) {
+    std::string codes;
+    std::string endingAtOnce;
+    for (const test::Type& type : test::Types) {
+        const ShapePtr shape = CShapeFactory::GetInstance().CreateShape(type.name);
+        codes += std::to_string(shape->GetShapeType());
+        endingAtOnce += shape->AwaitsPaint() ? "" : type.name + std::string(" ");
+    }
+    EXPECT_EQ(codes, "505132111400000");
+    EXPECT_EQ(endingAtOnce, "OvalShape CrossShape BigCrossShape SpotShape ");
 }
 
 TEST(Factory, KeepsTheFirstRegistrationOfAName) {

@@ -57,6 +57,9 @@ TEST(Line, BeginsInTheViewAndEndsThereToo) {
     EXPECT_EQ(host.Paint(), (Lines{"line (780,300)-(800,300) w2 yellow", "line (790,280)-(790,320) w2 yellow"}));
     host.Release(900, 700);
     EXPECT_EQ(host.Paint()[0], "line (780,300)-(800,600) w2 yellow");
+    host.container.RedrawShape(host.shape);
+    host.Drag({10, 10}, {16, 10}); // just long enough
+    EXPECT_NE(host.Config(), "");
 }
 
 TEST(Line, IsDrawnToAPointerOnTheBorderButNotToOneThatAResizeLeftOutside) {

@@ -1,14 +1,18 @@
 // The indexes and lists behind a press and a paint.
 
 #include "fuzz/two_scenes.h"
+#include "rulecanvas/surface.hpp"
+#include "shape/claim.h"
 #include "shape/shape_factory.h"
 #include "support/grid_scene.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
+#include <cmath>
+#include <limits>
 #include <random>
+#include <tuple>
 
 namespace rulecanvas::test {
 namespace {
@@ -50,16 +54,61 @@ TEST(ListenerList, CallsNoneThatIsGoneNotEvenInAWalkThatHasBegun) {
         });
         return places;
     };
-    for (const auto& [gone, left] : {std::make_pair(2, "0134"), {0, "134"}, {4, "13"}, {3, "1"}, {3, "1"}, {1, ""}}) {
-        list.Unregister(*shapes[static_cast<size_t>(gone)]);
+    using Step = std::tuple<size_t, const char*, size_t>;
+    for (const auto& [gone, left, places] :
+         {Step{2, "0134", 5}, Step{0, "134", 5}, Step{4, "13", 2}, Step{3, "1", 2}, Step{3, "1", 2}, Step{1, "", 0}}) {
+        list.Unregister(*shapes[gone]);
         EXPECT_EQ(called(*before), left);
         EXPECT_EQ(called(*list.Snapshot()), left);
-        EXPECT_LE(list.Snapshot()->size(), 2 * std::strlen(left)) << "holes are filled now and then";
+        EXPECT_EQ(list.Snapshot()->size(), places) << "holes are filled now and then";
     }
     list.Register(shapes[3]);
     list.Register(shapes[0]);
     EXPECT_EQ(called(*before), "");
     EXPECT_EQ(called(*list.Snapshot()), "30");
+}
+
+int LevelOf(CVideoAnalyseShape& shape, float x, float y) {
+    int level = Miss;
+    shape.HitTestLButtonDown({RULECANVAS_MOUSE_LEFT_DOWN, 0, 0, x, y, 0, 0}, level);
+    return level;
+}
+
+TEST(Claim, IsHardlyWiderThanWhatTheFigureAnswers) {
+    for (const Type& type : Types) {
+        GridScene scene;
+        scene.Add(type.name, type.config);
+        Surface surface;
+        scene.container.OnDraw(0, surface); // which places a pixel counter
+        CVideoAnalyseShape& shape = *scene.OnlyShape();
+        const Claim claim = shape.GetClaim();
+        shape.SetSelectedState(false); // a selected one is asked in any case
+        EXPECT_EQ(claim.answersOutside, LevelOf(shape, 7000, 7000) == Outside) << type.name;
+        if (!std::isfinite(claim.left)) {
+            continue;
+        }
+        const bool isLine = shape.GetShapeType() != 0 && shape.GetShapeType() != RectangleType;
+        const float slack = isLine ? 3.5F : 1.75F; // a line's points reach no farther than its segments
+        int sides = 0;
+        for (const auto& [x, y, across, down] : {std::make_tuple(claim.left + slack, claim.top, 0.0F, 0.5F),
+                                                 {claim.right - slack, claim.top, 0.0F, 0.5F},
+                                                 {claim.left, claim.top + slack, 0.5F, 0.0F},
+                                                 {claim.left, claim.bottom - slack, 0.5F, 0.0F}}) {
+            PointF at{x, y};
+            while (at.x <= claim.right && at.y <= claim.bottom && LevelOf(shape, at.x, at.y) <= Outside) {
+                at = PointF{at.x + across, at.y + down};
+            }
+            sides += at.x <= claim.right && at.y <= claim.bottom ? 1 : 0;
+        }
+        EXPECT_EQ(sides, 4) << type.name;
+    }
+}
+
+TEST(Claim, OfAPointThatIsNoNumberIsEverywhere) {
+    constexpr float endless = std::numeric_limits<float>::infinity();
+    for (const PointF& point : {PointF{endless, 0}, {0, -endless}, {NAN, 0}, {0, NAN}}) {
+        EXPECT_TRUE(Claim::Around({{1, 1}, point}, 1, false).Holds({-1e9F, 1e9F}));
+    }
 }
 
 } // namespace

@@ -105,10 +105,15 @@ void CVideoAnalyseContainer::OfferToComposites(const ContainerMouseEvent& event)
 }
 
 ListenerList& CVideoAnalyseContainer::ListenersOf(MouseListenerKind kind) {
-    if (kind == MouseListenerKind::MouseMoved) {
-        return mouseMovedListeners;
+    switch (kind) {
+    case MouseListenerKind::ButtonUp:
+        return buttonUpListeners;
+    case MouseListenerKind::RightButtonUp:
+        return rightButtonUpListeners;
+    case MouseListenerKind::MouseMoved:
+        break;
     }
-    return kind == MouseListenerKind::ButtonUp ? buttonUpListeners : rightButtonUpListeners;
+    return mouseMovedListeners;
 }
 
 /// The host is asked for the view's rectangle once, and only when someone listens.

@@ -33,14 +33,12 @@ bool InClientArea(const ClientRect& rect, const PointF& p) {
 }
 
 ClientRect SpanRectangle(const PointF& first, const PointF& second, const ClientRect& clip) {
-    const bool above = first.y <= second.y;
-    const bool leftOf = first.x <= second.x;
-    ClientRect rect{};
-    rect.left = std::max(TruncateToInt((leftOf ? first : second).x), 0);
-    rect.top = std::max(TruncateToInt((above ? first : second).y), 0);
-    rect.right = std::min(TruncateToInt((leftOf ? second : first).x), static_cast<int>(clip.right));
-    rect.bottom = std::min(TruncateToInt((above ? second : first).y), static_cast<int>(clip.bottom));
-    return rect;
+    // Beside a coordinate that is no number the second point is the left and the upper one.
+    const auto [left, right] = std::minmax(second.x, first.x);
+    const auto [top, bottom] = std::minmax(second.y, first.y);
+    return {std::max(TruncateToInt(left), 0), std::max(TruncateToInt(top), 0),
+            std::min(TruncateToInt(right), static_cast<int>(clip.right)),
+            std::min(TruncateToInt(bottom), static_cast<int>(clip.bottom))};
 }
 
 PointF ClampRelative(const PointF& anchor, const PointF& p, const ClientRect& clip) {

@@ -13,8 +13,8 @@ void Figure::Rescale(const ClientRect& view) {
     if (!fitted.Known() || view.right <= 0 || view.bottom <= 0 || !SizeOf(view).Known()) {
         return;
     }
-    const double scaleX = view.right * 1.0 / fitted.width;
-    const double scaleY = view.bottom * 1.0 / fitted.height;
+    const double scaleX = static_cast<double>(view.right) / fitted.width;
+    const double scaleY = static_cast<double>(view.bottom) / fitted.height;
     if (scaleX != 1.0 || scaleY != 1.0) {
         for (PointF& point : points) {
             point.x = static_cast<float>(point.x * scaleX);

@@ -3,8 +3,8 @@
 #include "shape/json_text.h"
 #include "shape/text.h"
 
-#include <cstring>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 namespace rulecanvas {
@@ -82,10 +82,10 @@ auto ValuesOf(const ColorF& colour) {
     return std::tie(colour.alpha, colour.red, colour.green, colour.blue);
 }
 
-/// All but the name of the font.
 auto ValuesOf(const ShapeStyle& style) {
     return std::tuple_cat(ValuesOf(style.selColor), ValuesOf(style.unSelColor), ValuesOf(style.fillColor),
                           ValuesOf(style.textStyle.fontColor),
+                          std::make_tuple(std::string_view(style.textStyle.fontFace)),
                           std::tie(style.textStyle.fontSize, style.lineThickness, style.unSelLineThickness,
                                    style.penStyle, style.direction, style.hostDirection, style.mosaicSize,
                                    style.mosaicEnable, style.canAdjust, style.canMove, style.xArrowLine, style.isFill));
@@ -94,7 +94,7 @@ auto ValuesOf(const ShapeStyle& style) {
 } // namespace
 
 bool operator==(const ShapeStyle& a, const ShapeStyle& b) {
-    return ValuesOf(a) == ValuesOf(b) && std::strcmp(a.textStyle.fontFace, b.textStyle.fontFace) == 0;
+    return ValuesOf(a) == ValuesOf(b);
 }
 
 void ReadStyle(const char* text, ShapeStyle& style) {

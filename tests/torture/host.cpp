@@ -147,8 +147,9 @@ void Host::Hear(Callback callback) {
     }
 }
 
-void Host::Notify(void* target, const char* text, Bool32 /*flag*/) {
+void Host::Notify(void* target, const char* text, Bool32 flag) {
     const InsideHost inHost;
+    Require(flag == 0, "a flag of a notification");
     Host& host = *static_cast<Host*>(target);
     const std::string copy = text;
     Require(host.endedShapes.count(SpeakerOf(copy)) == 0, "a notification of a deleted shape");

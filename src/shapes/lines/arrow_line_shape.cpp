@@ -16,14 +16,14 @@ class CArrowLineShape final : public CPathLineShape {
   private:
     /// Finishes only a path that whoever judges it accepts.
     void HandleRButtonEvent(const ContainerMouseEvent& event, int hitLevel) override {
-        bool accepted = false;
-        {
-            LockGuard guard(lock);
-            accepted = hitLevel == Busy && PassesValidation(figure.points, true);
-        }
-        if (accepted) {
+        if (hitLevel == Busy && PassesAsComplete()) {
             CPathLineShape::HandleRButtonEvent(event, hitLevel);
         }
+    }
+
+    bool PassesAsComplete() const {
+        LockGuard guard(lock);
+        return PassesValidation(figure.points, true);
     }
 
     /// Free in both directions, also for a horizon.

@@ -3,7 +3,7 @@
 namespace rulecanvas {
 
 bool SideAIsUpper(const PointF& from, const PointF& to) {
-    return from.x == to.x ? to.y < from.y : from.x < to.x;
+    return from.x < to.x || (from.x == to.x && to.y < from.y);
 }
 
 CrossingArrowList CrossingArrows(const PointF& from, const PointF& to, const CrossStroke& stroke, int direction) {

@@ -32,7 +32,9 @@ class CPathLineShape : public CLineFamilyShape {
 
   protected:
     /// Two at least, whatever the host asked for.
-    size_t MaximumPoints() const override { return std::max(LinePoints, static_cast<size_t>(std::max(0, maxPtNum))); }
+    size_t MaximumPoints() const override {
+        return static_cast<size_t>(std::max(static_cast<int>(LinePoints), maxPtNum));
+    }
     bool DragPoint(int index, const PointF& to, const ClientRect& view) override {
         const auto vertex = static_cast<size_t>(index);
         if (index < 0 || vertex >= std::min(figure.points.size(), MaximumPoints())) {
