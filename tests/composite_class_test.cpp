@@ -20,6 +20,7 @@ class Frame final : public CRectangleShape {
     std::string heard;
     int partLevel = Inside;
     CVideoAnalyseShape* answering = part.get();
+    int latestMode = -1;
     std::function<void()> onEvent = [] {};
 
     bool IsComposite() const override { return true; }
@@ -36,7 +37,10 @@ class Frame final : public CRectangleShape {
         Hear("direct", id);
         return CRectangleShape::SetShapeDirection(id, direction);
     }
-    bool SelectShape(bool select, int /*mode*/) override { return select; }
+    bool SelectShape(bool select, int mode) override {
+        latestMode = mode;
+        return select;
+    }
     CVideoAnalyseShape* HitTestLButtonDown(const ContainerMouseEvent& /*event*/, int& hitLevel) override {
         hitLevel = partLevel;
         return partLevel == Miss ? nullptr : answering;
@@ -81,6 +85,7 @@ TEST(Composite, IsReachedThroughItsPartByTheCallsThatSaySo) {
     const ShapeID inner = part.GetShapeId();
     EXPECT_EQ(frames.container.AddToShape(whole, 1, 2, 3), 123U);
     EXPECT_EQ(frames.container.AddToShape(inner, 1, 2, 3), 0U) << "a part takes no parts";
+    EXPECT_EQ(frame.latestMode, 0) << "when it was made";
     EXPECT_FALSE(frames.container.SelectShape(whole, false)) << "its own answer";
     EXPECT_TRUE(frames.container.SelectShape(inner, true));
     EXPECT_TRUE(part.IsSelected());
@@ -133,6 +138,7 @@ TEST(Composite, GivesAPressToItsPart) {
     frames.first->SetAdjustBoxShow(true);
     press();
     EXPECT_FALSE(frames.first->ShowsHandles()) << "although its own deselection leaves them";
+    EXPECT_EQ(frames.first->latestMode, 1) << "by a press";
 }
 
 TEST(Composite, IsOfferedMovesAndKeysUntilItEnds) {

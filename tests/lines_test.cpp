@@ -158,6 +158,7 @@ TEST(XLine, IsDrawnPointByPointAndFinishedByTheRightButton) {
 TEST(DashLine, HasOneThicknessNoMarkAndAlwaysACaption) {
     GridHost host("DashLineShape", Level, R"({"UnSelLineThickness":7})");
     host.container.SetDirection(host.shape, 2);
+    EXPECT_EQ(host.Paint().back(), "rect (197,97)-(203,103) w2 yellow");
     host.container.SelectShape(host.shape, false);
     EXPECT_EQ(host.Paint(), (Lines{"line (100,100)-(200,100) w2 blue dashed",
                                    "caption \"\" at (100,100)(200,100) blue clip 0,0,8191,8191"}));

@@ -323,6 +323,28 @@ TEST(OwnedShape, RemembersItsModeWordsWhenItIsConfiguredAgain) {
     }
 }
 
+TEST(OwnedShape, DragsNoPointThatItHasNot) {
+    for (const auto& [type, pointCount] : {std::make_pair("OvalShape", 8), {"LineShape", 2}, {"Polygon", 3}}) {
+        Owned<> owned(type);
+        ASSERT_TRUE(owned.Configure("rule", test::ConfigOf(type)));
+        Points dragged;
+        for (const int index : {-1, pointCount, 100}) {
+            EXPECT_FALSE(owned.shape->BuildDragPoints(index, {1500, 1500}, dragged)) << type << " " << index;
+            EXPECT_EQ(dragged, owned.PointsNow());
+        }
+    }
+}
+
+TEST(OwnedShape, HasAStyleForTypesToComeToo) {
+    ShapeStyle style;
+    ReadStyle(R"({"IsFill":true,"ShapeColor":[{"ColorName":"FillColor","R":1,"G":2,"B":3}]})", style);
+    ShapeStyle expected;
+    expected.isFill = true;
+    expected.fillColor = OpaqueColour(1, 2, 3);
+    EXPECT_TRUE(style == expected);
+    EXPECT_EQ(Shared(style), Shared(expected)) << "one for all that look alike";
+}
+
 TEST(OwnedShape, WithoutAContainerTellsNobody) {
     const ShapePtr rectangle = CShapeFactory::GetInstance().CreateShape("Rect");
     EXPECT_FALSE(rectangle->SetVideoAnalyseShapeData({"rule", R"({"rule":[[1,1],[90,90]]})", "", GridRect}));

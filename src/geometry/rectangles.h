@@ -7,6 +7,9 @@ namespace rulecanvas {
 /// Difference of two coordinates, saturating.
 int Span(int from, int to);
 
+/// For a limit: none.
+constexpr ClientRect NoLimit{-1, -1, -1, -1};
+
 ViewSize SizeOf(const ClientRect& rect);
 
 /// All four borders included.

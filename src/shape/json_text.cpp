@@ -5,6 +5,7 @@
 #include <json/reader.h>
 #include <json/writer.h>
 
+#include <algorithm>
 #include <cstring>
 #include <sstream>
 
@@ -65,7 +66,7 @@ std::string WriteJson(const Json::Value& value) {
 
 bool CopyText(const std::string& text, CopyRule rule, char* buffer, int size) {
     const size_t length = rule == CopyRule::Line ? text.rfind('\n') : text.size();
-    const size_t room = size < 0 ? 0 : static_cast<size_t>(size);
+    const auto room = static_cast<size_t>(std::max(size, 0));
     const bool isTerminated = room > length;
     const bool fits = isTerminated || (rule == CopyRule::ZeroUncounted && room == length);
     if (buffer == nullptr || !fits) {

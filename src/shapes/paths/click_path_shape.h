@@ -83,7 +83,7 @@ class CClickPathShape : public CGestureShape {
     }
 
     bool convex = false;
-    ClientRect m_recWnd{-1, -1, -1, -1};
+    ClientRect m_recWnd = NoLimit;
 };
 
 } // namespace rulecanvas

@@ -63,7 +63,7 @@ class CRectangleShape : public CBoxShape {
     bool CoversCropLimit(const PointF& topLeft, const PointF& bottomRight) const;
     bool DragCoversCropLimit(const PointF& release) const;
 
-    ClientRect cropLimit{-1, -1, -1, -1};
+    ClientRect cropLimit = NoLimit;
     bool textOnly = false;
 };
 
