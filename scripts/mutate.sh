@@ -67,7 +67,8 @@ prepare_copy() {
     done < <(git ls-files -z)
     (cd "$tree" && find src tests include -type f) | { grep -vxFf <(git ls-files) || true; } | sed "s|^|$tree/|" | xargs -r rm
     cmake -S "$tree" -B "$tree/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 \
-        -DCMAKE_CXX_FLAGS=-w -DRULECANVAS_TESTS=ON >"$tree.log" 2>&1 &&
+        -DRULECANVAS_TESTS=ON \
+        -DCMAKE_CXX_FLAGS='-w -D_GLIBCXX_ASSERTIONS -fsanitize=undefined -fno-sanitize=vptr -fsanitize-undefined-trap-on-error' >"$tree.log" 2>&1 &&
         build_copy "$tree" scenario_tests class_tests cost_tests document_tests torture
 }
 

@@ -33,6 +33,16 @@ TEST(Cross, IsPlacedByOneClickEach) {
     EXPECT_EQ(host.Config(), "") << "not as many as the host now wants";
 }
 
+TEST(Cross, IsFinishedByAClickWhenTheHostWantsFewer) {
+    GridHost host("CrossShape", "", "3");
+    host.Click(100, 100);
+    host.container.SetPointLimits(host.shape, 1, 0);
+    host.TakeLog();
+    host.Click(200, 200);
+    EXPECT_EQ(host.TakeLog(), (Lines{"state rule 2>3"}));
+    EXPECT_EQ(host.Config(), Rule("100,100"));
+}
+
 TEST(Cross, ThatIsLetGoNowhereLiesAtTheBorder) {
     using Places = std::pair<PointF, PointF>;
     for (const auto& [release, press] : {Places{{NAN, 300}, {0, 300}}, Places{{300, NAN}, {300, 0}}}) {

@@ -333,6 +333,10 @@ TEST(OwnedShape, DragsNoPointThatItHasNot) {
             EXPECT_EQ(dragged, owned.PointsNow());
         }
     }
+    Owned<> spot("SpotShape");
+    spot.Configure("rule", test::Place);
+    Points dragged;
+    EXPECT_TRUE(spot.shape->BuildDragPoints(-1, {1500, 1500}, dragged)) << "which has but one";
 }
 
 TEST(OwnedShape, HasAStyleForTypesToComeToo) {

@@ -33,8 +33,16 @@ TEST(PressIndex, KeepsNoShapeThatWasDeleted) {
         const ShapeID id = scene.Add("Rect", Corners);
         scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, {9, 9});
         const std::weak_ptr<CVideoAnalyseShape> shape = scene.OnlyShape();
-        all ? scene.container.DeleteAllShapes() : static_cast<void>(scene.container.DeleteShape(id));
+        Points left;
+        if (all) {
+            const ShapePtr held = scene.OnlyShape(); // as by a call on another thread
+            scene.container.DeleteAllShapes();
+            held->GetShapePoints(left);
+        } else {
+            scene.container.DeleteShape(id);
+        }
         EXPECT_TRUE(shape.expired());
+        EXPECT_EQ(left, Points{});
     }
 }
 
@@ -102,6 +110,11 @@ TEST(Claim, IsHardlyWiderThanWhatTheFigureAnswers) {
         }
         EXPECT_EQ(sides, 4) << type.name;
     }
+}
+
+TEST(Claim, HoldsItsBorders) {
+    const Claim claim{1, 2, 3, 4, false};
+    EXPECT_TRUE(claim.Holds({1, 2}) && claim.Holds({3, 4}));
 }
 
 TEST(Claim, OfAPointThatIsNoNumberIsEverywhere) {
