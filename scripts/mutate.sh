@@ -23,7 +23,7 @@ commands=("scenario_tests --gtest_brief=1 --gtest_fail_fast" "class_tests --gtes
 
 say() { printf 'mutate: %s\n' "$*"; }
 
-# Lists the possible changes as FILE, LINE, COLUMN, LENGTH, NEW TEXT, separated by tabs. Texts and comments stay as they
+# Lists the possible changes as FILE, LINE, COLUMN, LENGTH, NEW TEXT, PLACE:TEXT of the line, separated by tabs. Texts and comments stay as they
 # are; between spaces a sign is an operator and no bracket or pointer.
 list_changes() {
     # shellcheck disable=SC2016 # variables of the other language
@@ -37,7 +37,8 @@ list_changes() {
         $code =~ s{//.*}{};
         $code =~ s{("(?:\\.|[^"\\])*")}{"\"" . "~" x (length($1) - 2) . "\""}ge;
         next if $code =~ /^\s*(#|static_assert|$)/;
-        sub change { print join("\t", $ARGV, $., $_[0], $_[1], $_[2]), "\n" }
+        ($indent, $text) = /^(\s*)(.*)/;
+        sub change { print join("\t", $ARGV, $., @_, $_[0] - length($indent) . ":$text"), "\n" }
         while ($code =~ /(?<= )(<=?|>=?|[!=]=|&&|\|\||[-+]=?|[*\/])(?= |$)/g) {
             change($-[1], length $1, $other{$1});
         }
@@ -51,8 +52,19 @@ list_changes() {
     '
 }
 
-# A choice that depends on the seed alone.
-sample() { perl -e 'srand(shift); $n = shift; @all = <STDIN>; for (1 .. $n) { last if !@all; print splice(@all, rand(@all), 1) }' "$seed" "$1"; }
+# A choice that depends on the seed and on the changes themselves, not on where they stand: the sample of a seed stays
+# the same while lines beside it come and go.
+sample() {
+    # shellcheck disable=SC2016 # variables of the other language
+    perl -MDigest::MD5=md5 -e '
+        ($seed, $count) = @ARGV;
+        @all = sort { $a->[0] cmp $b->[0] } map {
+            ($file, $line, $column, $length, $new, $text) = split(/\t/);
+            [md5(join("\t", $seed, $file, $new, $text)), $_]
+        } <STDIN>;
+        print map { $_->[1] } splice(@all, 0, $count);
+    ' "$seed" "$1" | cut -f 1-5
+}
 
 apply_change() {
     perl -i -pe 'BEGIN { ($line, $column, $length, $new) = splice(@ARGV, 0, 4) } substr($_, $column, $length) = $new if $. == $line' \

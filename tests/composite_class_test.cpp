@@ -87,6 +87,7 @@ TEST(Composite, IsReachedThroughItsPartByTheCallsThatSaySo) {
     EXPECT_EQ(frames.container.AddToShape(inner, 1, 2, 3), 0U) << "a part takes no parts";
     EXPECT_EQ(frame.latestMode, 0) << "when it was made";
     EXPECT_FALSE(frames.container.SelectShape(whole, false)) << "its own answer";
+    EXPECT_EQ(frame.latestMode, 1) << "by the host";
     EXPECT_TRUE(frames.container.SelectShape(inner, true));
     EXPECT_TRUE(part.IsSelected());
     EXPECT_EQ(frames.container.SetShapeDirection(inner, 4), 1);

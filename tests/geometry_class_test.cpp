@@ -149,6 +149,7 @@ TEST(Trace, TellsWhatWasFoundInsteadAndWhere) {
          {Case{"Rect", R"({"rule":"x"})", "expected an array of 2 corners, found a text, at $.rule"},
           Case{"Rect", R"({"rule":true})", "found a boolean, at $.rule"},
           Case{"Rect", R"({"rule":5})", "found a number, at $.rule"}, Case{"Rect", "{}", "found nothing, at $.rule"},
+          Case{"Rect", R"({"rule":[["x",1],[2,2]]})", "not convertible to double.), at $.rule"},
           Case{"Rect", R"({"rule":[[1,1]]})", "found an array of 1 element, at $.rule"},
           Case{"OvalShape", R"({"OvalShape":{"a":1,"b":2}})", "found an object of 2 elements, at $.OvalShape"},
           Case{"Circle", "", "\"rule\": expected a registered type, found \"Circle\", at type"}}) {

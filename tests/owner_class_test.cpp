@@ -320,6 +320,8 @@ TEST(OwnedShape, RemembersItsModeWordsWhenItIsConfiguredAgain) {
             ASSERT_TRUE(owned.Configure("rule", R"({"rule":[[100,100],[200,200]]})", option));
         }
         EXPECT_TRUE(c.remembers(owned)) << c.type << " " << c.word;
+        owned.Configure("rule", "");
+        EXPECT_EQ(owned.PointsNow(), Points{}) << c.type << " forgets the figure";
     }
 }
 
@@ -341,6 +343,7 @@ TEST(OwnedShape, DragsNoPointThatItHasNot) {
 
 TEST(OwnedShape, HasAStyleForTypesToComeToo) {
     ShapeStyle style;
+    EXPECT_FALSE(style.isFill);
     ReadStyle(R"({"IsFill":true,"ShapeColor":[{"ColorName":"FillColor","R":1,"G":2,"B":3}]})", style);
     ShapeStyle expected;
     expected.isFill = true;

@@ -38,6 +38,8 @@ TEST(Paths, AreDrawnOnTheSurface) {
     host.container.SetPointLimits(line, 3, 3);
     host.Click(90, 80);
     EXPECT_EQ(host.Paint()[2], "caption \"way\" at (9,9)(90,9)(90,80) yellow clip 0,0,800,600");
+    Act(host, "press 50 9 move 50 19");
+    EXPECT_EQ(host.Paint()[0], "line (9,19)-(90,19) w2 yellow") << "the whole line follows";
 }
 
 TEST(Polygon, PointsAcrossItsFirstEdge) {
