@@ -144,6 +144,10 @@ for command in "${commands[@]}"; do
     fi
 done
 commands=("${passing[@]}")
+if ((${#commands[@]} == 0)); then
+    say "nothing to try with; see $work/tree0.log"
+    exit 1
+fi
 
 say "[2/3] trying"
 for ((worker = 0; worker < workers; ++worker)); do

@@ -156,6 +156,8 @@ TEST(Trace, TellsWhatWasFoundInsteadAndWhere) {
         EXPECT_EQ(scene.Add(c.type, c.config), 0U);
         EXPECT_EQ(told.substr(told.size() - std::min(told.size(), std::strlen(c.ending))), c.ending);
     }
+    scene.container.CreateMainShape(0, "", "Rect", "rule", "", R"({"mosaic":{"size":"x"}})");
+    EXPECT_NE(told.find("), at option"), std::string::npos);
     told.clear();
     scene.Add("Rect");
     EXPECT_EQ(told, "") << "nothing was refused";

@@ -34,7 +34,8 @@ TEST(Gestures, OnRectangles) {
 
         {"Rect", "", Box, "right 150 150", "", Box},
         {"Rect", "EnableRBtnDelete", Box, "right 300 300", "", Box},
-        {"Rect", "EnableRBtnDelete", Box, "right 150 150 click 150 150 right 150 150", Removed, ""}, // hit once
+        {"Rect", "EnableRBtnDelete", Box, "right 150 150 click 150 150 move 9 9 right 150 150", Removed,
+         ""}, // hit once
     });
 }
 

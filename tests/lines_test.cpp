@@ -60,6 +60,11 @@ TEST(Line, BeginsInTheViewAndEndsThereToo) {
     host.container.RedrawShape(host.shape);
     host.Drag({10, 10}, {16, 10}); // just long enough
     EXPECT_NE(host.Config(), "");
+    host.container.RedrawShape(host.shape);
+    host.Press(10, 10);
+    host.Resize(0, 0);
+    host.Release(100, 100);
+    EXPECT_EQ(host.Config(), "") << "a view without a size has no place for the end";
 }
 
 TEST(Line, IsDrawnToAPointerOnTheBorderButNotToOneThatAResizeLeftOutside) {

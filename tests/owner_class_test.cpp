@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace rulecanvas {
 namespace {
 
@@ -119,7 +121,11 @@ TEST(OwnedLine, IsClippedToAPolygon) {
 /// An owner that allows a path up to some number of points, and none that begins too far to the right.
 struct Judge {
     size_t longest = 0;
-    bool Decide(const Points& path, bool /*complete*/) { return path.size() <= longest; }
+    bool judgedComplete = false;
+    bool Decide(const Points& path, bool complete) {
+        judgedComplete = complete;
+        return path.size() <= longest;
+    }
     bool Check(const Points& path) { return path[0].x < 50; }
 
     void SitOver(OwnerHooks& hooks) {
@@ -132,11 +138,13 @@ TEST(OwnedArrow, AsksItsOwnerBeforeItChanges) {
     Owned<> arrow("ArrowLineShape");
     owner.SitOver(arrow.shape->Hooks());
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Waiting) << "the first point is refused";
+    EXPECT_FALSE(owner.judgedComplete);
     EXPECT_EQ(arrow.PointsNow(), Points{});
     owner.longest = 1;
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Waiting) << "the second one: to be drawn again";
     owner.longest = 2;
     EXPECT_EQ(arrow.StateAfterStroke({10, 10}, {90, 10}), Complete);
+    EXPECT_TRUE(owner.judgedComplete);
     const Points drawn = arrow.PointsNow();
     Points dragged;
     EXPECT_TRUE(arrow.shape->BuildDragPoints(0, {60, 20}, dragged));
@@ -151,6 +159,7 @@ TEST(OwnedArrow, AsksItsOwnerBeforeItChanges) {
     EXPECT_FALSE(arrow.shape->BuildDragPoints(0, {20, 20}, dragged));
     EXPECT_FALSE(arrow.shape->MoveShape(1, 1));
     EXPECT_EQ(arrow.PointsNow(), drawn);
+    EXPECT_FALSE(owner.judgedComplete);
 }
 
 TEST(OwnedArrow, IsFinishedByTheRightButtonWithItsOwnersConsent) {
@@ -164,6 +173,10 @@ TEST(OwnedArrow, IsFinishedByTheRightButtonWithItsOwnersConsent) {
     EXPECT_EQ(arrow.StateAfterRightPress(Busy), Drawing);
     owner.longest = 2;
     EXPECT_EQ(arrow.StateAfterRightPress(Busy), Complete);
+    EXPECT_TRUE(std::exchange(owner.judgedComplete, false));
+    arrow.Press({10, 10}, OnOutline);
+    arrow.Send(RULECANVAS_MOUSE_LEFT_UP, {10, 10});
+    EXPECT_TRUE(owner.judgedComplete) << "and after a drag";
 }
 
 TEST(OwnedShape, LetsItsOwnerHearAndPlaceInsteadOfTheHost) {
@@ -344,11 +357,15 @@ TEST(OwnedShape, DragsNoPointThatItHasNot) {
 TEST(OwnedShape, HasAStyleForTypesToComeToo) {
     ShapeStyle style;
     EXPECT_FALSE(style.isFill);
-    ReadStyle(R"({"IsFill":true,"ShapeColor":[{"ColorName":"FillColor","R":1,"G":2,"B":3}]})", style);
+    ReadStyle(R"({"IsFill":true,"ShapeColor":[{"ColorName":"FillColor","R":1,"G":2,"B":3},
+                                             {"ColorName":"FontColor","R":4,"G":5,"B":6}]})",
+              style);
     ShapeStyle expected;
     expected.isFill = true;
     expected.fillColor = OpaqueColour(1, 2, 3);
+    expected.textStyle.fontColor = OpaqueColour(4, 5, 6);
     EXPECT_TRUE(style == expected);
+    EXPECT_NO_THROW(ReadStyle(R"({"ShapeColor":5})", style));
     EXPECT_EQ(Shared(style), Shared(expected)) << "one for all that look alike";
 }
 

@@ -25,12 +25,15 @@ ContainerHandle ContainerRegistry::Insert(const ContainerPtr& container) {
 }
 
 void ContainerRegistry::Erase(ContainerHandle handle) {
-    std::unique_lock guard(mutex);
-    const auto erased = containers.extract(handle);
-    guard.unlock();
-    if (!erased.empty()) {
-        erased.mapped()->Close();
+    if (const ContainerPtr erased = Take(handle)) {
+        erased->Close();
     }
+}
+
+ContainerPtr ContainerRegistry::Take(ContainerHandle handle) {
+    const std::lock_guard guard(mutex);
+    const auto taken = containers.extract(handle);
+    return taken.empty() ? nullptr : taken.mapped();
 }
 
 ContainerPtr ContainerRegistry::Find(ContainerHandle handle) const {
@@ -39,12 +42,14 @@ ContainerPtr ContainerRegistry::Find(ContainerHandle handle) const {
     return found == containers.end() ? nullptr : found->second;
 }
 
+ContainerRegistry::Containers ContainerRegistry::Snapshot() const {
+    const std::lock_guard guard(mutex);
+    return containers;
+}
+
 std::string ContainerRegistry::StateReport() const {
-    std::unique_lock guard(mutex);
-    const auto reported = containers; // the shapes are asked without the lock
-    guard.unlock();
     Json::Value report;
-    for (const auto& [handle, container] : reported) {
+    for (const auto& [handle, container] : Snapshot()) {
         for (const ShapePtr& shape : container->ShapesInOrder()) {
             report.append(StateOf(*shape));
         }

@@ -33,10 +33,15 @@ class ContainerRegistry {
     std::string StateReport() const;
 
   private:
-    ContainerRegistry() = default;
+    using Containers = std::map<ContainerHandle, ContainerPtr>;
 
+    ContainerRegistry() = default;
+    ContainerPtr Take(ContainerHandle handle);
+    Containers Snapshot() const;
+
+    /// Guards the map alone: containers are called without it.
     mutable std::mutex mutex;
-    std::map<ContainerHandle, ContainerPtr> containers;
+    Containers containers;
 };
 
 } // namespace rulecanvas

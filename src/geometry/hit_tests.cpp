@@ -52,10 +52,7 @@ bool OnPath(const Points& path, const PointF& p) {
 }
 
 bool OnRing(const Points& ring, const PointF& p) {
-    if (ring.empty()) {
-        return false;
-    }
-    return VertexIndex(ring, p) >= 0 || OnPath(ring, p) || NearSegment(ring.back(), ring.front(), p);
+    return VertexIndex(ring, p) >= 0 || OnPath(ring, p) || (!ring.empty() && NearSegment(ring.back(), ring.front(), p));
 }
 
 double ExactSide(const PointF& a, const PointF& b, const PointF& p) {

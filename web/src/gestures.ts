@@ -17,6 +17,7 @@ const AREAS: ReadonlySet<string> = new Set(["Rect", "Polygon", "VirablePolygon",
 export class Gestures implements InputSink {
     editable = true;
     private pointer: Point = [0, 0];
+    private isPressed = false;
 
     constructor(
         private readonly board: Board,
@@ -24,6 +25,11 @@ export class Gestures implements InputSink {
         private readonly events: TypedEvents,
         readonly view: number,
     ) {}
+
+    /** Whether something follows the pointer. Some rules keep the mouse when they are let go. */
+    get isDragging(): boolean {
+        return this.isPressed && this.model.drawing.hasMouse;
+    }
 
     toView(clientX: number, clientY: number): Point {
         return this.board.toView(clientX, clientY);
@@ -34,6 +40,7 @@ export class Gestures implements InputSink {
             return;
         }
         this.pointer = at;
+        this.isPressed = code === MOUSE.leftDown || (this.isPressed && code !== MOUSE.leftUp);
         if (code === MOUSE.leftUp) {
             // A pixel counter measures itself while it is painted, so its last size has to be painted before it ends.
             this.board.paintAhead();

@@ -53,17 +53,14 @@ function toEdit(rule: Rule, pointing: Pointing): string {
 }
 
 /** What the user can do next with a rule that is being drawn or is selected; null stands for none of them. */
-export function helpFor(rule: Rule | null, pointing: Pointing): string {
+export function helpFor(rule: Rule | null, pointing: Pointing, isDragging: boolean): string {
     switch (rule?.state) {
         case "waiting":
             return toStart(rule, pointing);
         case "drawing":
             return toGoOn(rule, pointing);
         case "complete":
-            return toEdit(rule, pointing);
-        case "moving":
-        case "reshaping":
-            return "Let go where it belongs.";
+            return isDragging ? "Let go where it belongs." : toEdit(rule, pointing);
         default:
             return "Choose a tool to draw a rule, or click a rule to edit it.";
     }

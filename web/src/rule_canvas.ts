@@ -115,7 +115,7 @@ export class RuleCanvas extends TypedEvents {
 
     /** One line that tells the user what is next. */
     get help(): string {
-        return helpFor(this.drawing ?? this.selected, this.board.pointing);
+        return helpFor(this.drawing ?? this.selected, this.board.pointing, this.gestures.isDragging);
     }
 
     /** The size of the picture in pixels of its own; of the view where nothing tells it. */

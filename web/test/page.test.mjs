@@ -79,7 +79,11 @@ editorTest("undo, redo, save and open on the page", DESKTOP, async (page, at) =>
 });
 
 editorTest("the properties of a rule", DESKTOP, async (page, at) => {
-    await page.mouse.click(...at(0.5, 0.7));
+    await page.mouse.move(...at(0.5, 0.7));
+    await page.mouse.down();
+    await page.waitForFunction(() => document.getElementById("help").textContent.startsWith("Let go"));
+    await page.mouse.up();
+    await page.waitForFunction(() => document.getElementById("help").textContent.startsWith("Drag"));
     await page.locator("#properties").waitFor();
     await page.getByLabel("Caption").fill("Zebra");
     await page.getByLabel("Caption").press("Enter");

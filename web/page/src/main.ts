@@ -82,7 +82,7 @@ async function use(target: HTMLElement): Promise<void> {
         canvas.load(rules);
     }
     history = new History(canvas, refreshSoon);
-    for (const event of ["change", "select", "state", "rules"] as const) {
+    for (const event of ["change", "select", "state", "capture", "rules"] as const) {
         canvas.on(event, refreshSoon);
     }
     canvas.on("create", () => {
