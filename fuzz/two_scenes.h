@@ -44,6 +44,7 @@ struct Scene {
 
     Scene() {
         container.SetClientRectDelegate(CDelegate{&host, reinterpret_cast<void*>(&QuietHost::ReportRect)});
+        container.SetPixelCount(640, 480);
         container.Enable(true);
     }
     ~Scene() { container.Close(); }
@@ -177,6 +178,8 @@ class TwoScenes {
             } else if (which == 5) {
                 shape->SetVideoAnalyseShapeData(
                     {"rule", R"({"rule":[[4000,4000],[5000,5000]]})", "", {0, 0, 400, 300}});
+            } else if (which == 6) {
+                shape->MoveShape(points[0].x / 10, points[0].y / 10);
             } else {
                 container.DeepFind(id)->SetMaxPtNum(place % 4, 3);
             }

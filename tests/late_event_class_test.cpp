@@ -99,5 +99,19 @@ TEST(LateEvents, AReleaseThatIsLostEndsTheGesturesOfItsViewAlone) {
     EXPECT_TRUE(states == "0:3 1:4 " || states == "1:4 0:3 ") << states;
 }
 
+TEST(LateEvents, AReleaseThatIsLostGivesADrawingUp) {
+    GridScene scene;
+    scene.Add("LineShape");
+    scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, {2000, 2000});
+    const ShapePtr line = scene.OnlyShape();
+    EXPECT_EQ(line->GetState(), Drawing);
+    scene.container.SetClientRectDelegate(CDelegate{&scene, reinterpret_cast<void*>(&Throw)});
+    EXPECT_ANY_THROW(scene.Send(RULECANVAS_MOUSE_LEFT_UP, {3000, 3000}));
+    EXPECT_EQ(line->GetState(), Waiting);
+    Points left{{1, 1}};
+    line->GetShapePoints(left);
+    EXPECT_EQ(left, Points{});
+}
+
 } // namespace
 } // namespace rulecanvas::test
