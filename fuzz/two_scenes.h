@@ -145,7 +145,8 @@ class TwoScenes {
         const char* type = Types[Pick(static_cast<int>(std::size(Types)))].name;
         const char* option = options[Pick(static_cast<int>(std::size(options)))];
         const auto corner = [&] { return "[" + std::to_string(Pick(9000)) + "," + std::to_string(Pick(9000)) + "]"; };
-        const std::string points = "[" + corner() + "," + corner() + "]";
+        const bool isCounter = type == std::string("PixelCountShape"); // it has a size instead of corners
+        const std::string points = isCounter ? corner() : "[" + corner() + "," + corner() + "]";
         const std::string config = Pick(3) == 0 ? "" : R"({"rule":)" + points + R"(,"OvalShape":)" + points + "}";
         const ViewID view = View();
         Both([&](CVideoAnalyseContainer& container) {

@@ -126,6 +126,7 @@ TEST(Claim, IsHardlyWiderThanWhatTheFigureAnswers) {
 TEST(Claim, HoldsItsBorders) {
     const Claim claim{1, 2, 3, 4, false};
     EXPECT_TRUE(claim.Holds({1, 2}) && claim.Holds({3, 4}));
+    EXPECT_FALSE(claim.Holds({0, 3}) || claim.Holds({4, 3}) || claim.Holds({2, 1}) || claim.Holds({2, 5}));
 }
 
 TEST(Claim, OfAPointThatIsNoNumberIsEverywhere) {
