@@ -113,8 +113,8 @@ class TwoScenes {
 
     void Happen() {
         const int what = Pick(16);
-        what < 2    ? Add()
-        : what == 2 ? ChangeOne()
+        what < 1    ? Add()
+        : what <= 2 ? ChangeOne()
         : what == 3 ? Refit()
         : what < 7  ? Send(RULECANVAS_MOUSE_MOVED)
         : what < 10 ? Send(RULECANVAS_MOUSE_LEFT_UP)
@@ -156,7 +156,7 @@ class TwoScenes {
 
     void ChangeOne() {
         const int which = Pick(8);
-        const int place = Pick(20);
+        const int place = Pick(12);
         const Points points{Place(), Place(), Place(), Place()};
         Both([&](CVideoAnalyseContainer& container) {
             const auto snapshot = container.ShapesInOrder();
@@ -180,7 +180,7 @@ class TwoScenes {
                 shape->SetVideoAnalyseShapeData(
                     {"rule", R"({"rule":[[4000,4000],[5000,5000]]})", "", {0, 0, 400, 300}});
             } else if (which == 6) {
-                shape->MoveShape(points[0].x / 10, points[0].y / 10);
+                shape->MoveShape(points[0].x - points[1].x, points[0].y - points[1].y);
             } else {
                 container.DeepFind(id)->SetMaxPtNum(place % 4, 3);
             }

@@ -117,6 +117,8 @@ TEST(Rectangle, CoversItsInsideWithAMosaic) {
         ASSERT_GE(drawn.size(), 2U);
         EXPECT_EQ(Lines(drawn.begin() + 2, drawn.end()), layer) << option;
     }
+    GridHost finest("Rect", R"({"rule":[[5,5],[25,17]]})", R"({"mosaic":{"enable":true,"size":1}})");
+    EXPECT_GT(finest.Paint().size(), 240U) << "a cell a pixel";
 }
 
 TEST(Rectangle, FollowsTheSizeOfItsView) {

@@ -43,15 +43,12 @@ CVideoAnalyseContainer::~CVideoAnalyseContainer() {
 }
 
 void CVideoAnalyseContainer::Close() {
-    closed = true;
-    host.Forget();
+    BeginEnd();
     DeleteAllShapes();
-    ForgetHost();
+    ForgetDelegates();
 }
 
-void CVideoAnalyseContainer::ForgetHost() {
-    closed = true;
-    host.Forget();
+void CVideoAnalyseContainer::ForgetDelegates() {
     const CDelegate none{nullptr, nullptr};
     notifyDelegate.Set(none);
     adjustPointDelegate.Set(none);

@@ -36,7 +36,8 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     void Close();
     /// The same without the host hearing of it, for a container that goes with the library.
     void Abandon(EndingShapes& ending) {
-        ForgetHost(); // which may be gone, or in the middle of unloading
+        BeginEnd();
+        ForgetDelegates(); // of a host that may be gone, or in the middle of unloading
         EndShapes(ending);
     }
 
@@ -124,7 +125,12 @@ class CVideoAnalyseContainer final : public IShapeContainer {
     void DrawTip(PaintPass& pass);
     void FitAll(const ClientRect& viewZero);
 
-    void ForgetHost();
+    /// From now on no shape is made and the host's object is not called.
+    void BeginEnd() {
+        closed = true;
+        host.Forget();
+    }
+    void ForgetDelegates();
     void EndShape(const ShapePtr& shape);
     void EndShapes(EndingShapes& ending);
 

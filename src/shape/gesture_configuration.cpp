@@ -44,6 +44,7 @@ void CGestureShape::BeginConfiguration(const char* shapeName) {
     name = shapeName == nullptr ? "NoName" : shapeName;
     Enter(Waiting);
     selected = true;
+    MarkClaimStale(); // what follows may be refused
 }
 
 Refused CGestureShape::LoadText(const Configuration& configuration) {
