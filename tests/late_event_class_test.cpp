@@ -96,6 +96,7 @@ TEST(LateEvents, AReleaseThatIsLostEndsTheGesturesOfItsViewAlone) {
         EXPECT_ANY_THROW(scene.container.OnMouseEvent({RULECANVAS_MOUSE_LEFT_UP, view, 0, 3000, 3000, 0, 0}));
     }
     EXPECT_EQ(moved->GetState(), Complete);
+    EXPECT_EQ(moved->buttonUpTicket + moved->mouseMovedTicket, 0U) << "it listens no longer";
     EXPECT_EQ(elsewhere->GetState(), Moving);
     EXPECT_EQ(drawn->GetState(), Waiting);
     Points left{{1, 1}};
