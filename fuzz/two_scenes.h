@@ -180,7 +180,7 @@ class TwoScenes {
                 shape->SetVideoAnalyseShapeData(
                     {"rule", R"({"rule":[[4000,4000],[5000,5000]]})", "", {0, 0, 400, 300}});
             } else if (which == 6) {
-                shape->MoveShape(points[0].x - points[1].x, points[0].y - points[1].y);
+                shape->MoveShape((points[0].x - points[1].x) / 8, (points[0].y - points[1].y) / 8);
             } else {
                 container.DeepFind(id)->SetMaxPtNum(place % 4, 3);
             }

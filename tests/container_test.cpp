@@ -318,6 +318,14 @@ TEST(Container, DrawsATipUntilAPressHitsAShapeOfTheView) {
     EXPECT_EQ(host.Paint(), Lines{});
 }
 
+TEST(Container, GivesTheMouseBackWhenItIsReleased) {
+    FigureHost host("Rect", Square);
+    host.Press(150, 150);
+    host.TakeLog();
+    ReleaseVideoAnalyseContainer(host.container.Handle());
+    EXPECT_EQ(host.TakeLog(), Lines{"capture off"});
+}
+
 TEST(Container, ChangesTheLookOfOneShape) {
     FigureHost host("Rect", Square);
     host.container.SetCaption(host.shape, "gate");
