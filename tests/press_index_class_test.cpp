@@ -46,17 +46,6 @@ TEST(PressIndex, KeepsNoShapeThatWasDeleted) {
     }
 }
 
-TEST(PressIndex, LeavesOutAShapeThatIsPutIntoAnotherViewUnnoticed) {
-    GridScene scene;
-    scene.Add("Rect", Corners);
-    scene.Send(RULECANVAS_MOUSE_LEFT_DOWN, {9, 9});
-    const ShapePtr shape = scene.OnlyShape();
-    shape->SetViewId(5, GridRect);
-    shape->SetMaxPtNum(1, 1);
-    scene.container.OnMouseEvent({RULECANVAS_MOUSE_LEFT_DOWN, 5, 0, 2000, 2000, 0, 0});
-    EXPECT_EQ(shape->GetState(), Complete);
-}
-
 TEST(ListenerList, CallsNoneThatIsGoneNotEvenInAWalkThatHasBegun) {
     ListenerList list(&CVideoAnalyseShape::drawTicket);
     ShapeVector shapes;
