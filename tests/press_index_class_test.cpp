@@ -112,13 +112,10 @@ TEST(Claim, IsHardlyWiderThanWhatTheFigureAnswers) {
     }
 }
 
-TEST(Claim, HoldsItsBorders) {
+TEST(Claim, HoldsItsBordersAndEverythingForAPointThatIsNoNumber) {
     const Claim claim{1, 2, 3, 4, false};
     EXPECT_TRUE(claim.Holds({1, 2}) && claim.Holds({3, 4}));
     EXPECT_FALSE(claim.Holds({0, 3}) || claim.Holds({4, 3}) || claim.Holds({2, 1}) || claim.Holds({2, 5}));
-}
-
-TEST(Claim, OfAPointThatIsNoNumberIsEverywhere) {
     constexpr float endless = std::numeric_limits<float>::infinity();
     for (const PointF& point : {PointF{endless, 0}, {0, -endless}, {NAN, 0}, {0, NAN}}) {
         EXPECT_TRUE(Claim::Around({{1, 1}, point}, 1, false).Holds({-1e9F, 1e9F}));
