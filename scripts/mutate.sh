@@ -23,8 +23,8 @@ commands=("scenario_tests --gtest_brief=1 --gtest_fail_fast" "class_tests --gtes
 
 say() { printf 'mutate: %s\n' "$*"; }
 
-# Lists the possible changes as FILE, LINE, COLUMN, LENGTH, NEW TEXT, PLACE:TEXT of the line, separated by tabs. Texts and comments stay as they
-# are; between spaces a sign is an operator and no bracket or pointer.
+# Lists the possible changes as FILE, LINE, COLUMN, LENGTH, NEW TEXT, PLACE:TEXT of the line, separated by tabs. Texts and
+# comments stay as they are; between spaces a sign is an operator and no bracket or pointer.
 list_changes() {
     # shellcheck disable=SC2016 # variables of the other language
     git ls-files 'src/*.cpp' 'src/*.h' ':!*_windows.cpp' | xargs perl -ne '

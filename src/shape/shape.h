@@ -60,10 +60,10 @@ class CVideoAnalyseShape : public std::enable_shared_from_this<CVideoAnalyseShap
     virtual void RemoveSubShape(ShapeID /*id*/) {}
     virtual CVideoAnalyseShape* FindSubShape(ShapeID /*id*/) { return nullptr; }
     virtual int SetShapeDirection(ShapeID id, int newDirection);
-    virtual bool RestartDrawing() = 0;
+    virtual bool RestartDrawing() { return true; }
     virtual void ShowShape(bool show) { visible = show; }
-    virtual bool MoveShape(float dx, float dy) = 0;
-    virtual bool BuildDragPoints(int index, const PointF& current, Points& out) = 0;
+    virtual bool MoveShape(float /*dx*/, float /*dy*/) { return false; }
+    virtual bool BuildDragPoints(int /*index*/, const PointF& /*current*/, Points& /*out*/) { return false; }
     virtual bool GetPressPoint(PointF& out) const;
     virtual void SetShapePoints(Points newPoints);
     virtual void SetSubShapeShowName(ShapeID id, const char* text);

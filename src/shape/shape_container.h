@@ -10,7 +10,7 @@ namespace rulecanvas {
 class CVideoAnalyseShape;
 using ShapePtr = std::shared_ptr<CVideoAnalyseShape>;
 
-enum class MouseListenerKind { ButtonUp, RightButtonUp, MouseMoved };
+enum class MouseListenerKind { ButtonUp = 2, RightButtonUp = 5, MouseMoved = 6 };
 
 /// All that a shape knows of its container.
 class IShapeContainer {

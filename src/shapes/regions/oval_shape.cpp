@@ -77,7 +77,7 @@ class COvalShape final : public CBoxShape {
     }
     PointF AimOf(const PointerEvent& position) const override { return position.position; }
     bool DragPoint(int index, const PointF& to, const ClientRect& view) override {
-        if (static_cast<size_t>(index) >= std::size(OvalHandles)) {
+        if (static_cast<size_t>(index) >= std::size(OvalHandles)) { // a negative one, too
             return false;
         }
         constexpr int smallestSide = 4;

@@ -33,6 +33,7 @@ class CPixelCountShape final : public CRectangleShape {
   public:
     CPixelCountShape() {
         beforePaint = BeforePaint::Prepare;
+        ChangeStyle([](ShapeStyle& changed) { changed.lineThickness = 1; });
         minimumSide = std::numeric_limits<int>::min(); // whatever the view leaves of a drag is a size worth measuring
     }
 

@@ -21,6 +21,10 @@ int MaximumFrom(const char* word) {
 ///
 /// A single cross needs no aim: a press anywhere in the view takes it there.
 class CCrossShape final : public CPlacedCrosses {
+  public:
+    CCrossShape() { maxPtNum = 1; }
+
+  private:
     int Maximum() const override { return maxPtNum; }
     int CrossAt(const PointF& press) const override { return IsSingle() ? 0 : CPlacedCrosses::CrossAt(press); }
     Outcome StartEditing(const PointerEvent& press, int /*hitLevel*/) override {
